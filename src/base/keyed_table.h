@@ -1,0 +1,75 @@
+// The keyed table: an ordered collection of texts, each optionally under a key.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace ordex {
+
+// Looked up by key (letter case ignored, Unicode) or by 1-based position. Removing an entry moves
+// those behind it one position down. Adding, looking up and removing by key take constant time;
+// so does a position, unless entries were removed: then it takes a walk.
+class KeyedTable {
+ public:
+  struct Entry {
+    std::string key;  // as written when it was added; empty when the entry has no key
+    std::string value;
+  };
+
+  // Error: duplicate key. An empty key adds an entry without a key.
+  void Add(std::string value, std::string_view key = {});
+  // Error: missing key.
+  const std::string& Item(std::string_view key) const;
+  // Error: subscript, where `position` is not between 1 and Count().
+  const Entry& At(std::size_t position) const;
+  // Error: missing key.
+  void Remove(std::string_view key);
+
+  // Null where the key is absent. Valid until the table next changes.
+  const std::string* Lookup(std::string_view key) const;
+  bool Exists(std::string_view key) const { return Lookup(key) != nullptr; }
+
+  // Takes the value out together with its entry; the cheap way to build on an old value.
+  // Error: missing key.
+  std::string Take(std::string_view key);
+
+  std::size_t Count() const { return slots_.size() - removed_; }
+  void Clear();
+  // All entries in order.
+  std::vector<Entry> Entries() const;
+
+ private:
+  struct Slot {
+    Entry entry;
+    bool removed = false;
+  };
+
+  // These two ignore the case of ASCII letters, so that a look-up builds no folded copy of its
+  // key; other letters are folded beforehand.
+  struct Hash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view key) const;
+  };
+  struct Equal {
+    using is_transparent = void;
+    bool operator()(std::string_view a, std::string_view b) const;
+  };
+  using Index = std::unordered_map<std::string, std::size_t, Hash, Equal>;
+
+  Index::const_iterator Find(std::string_view key) const;
+  void SweepEmptySlots();
+
+  // A removed entry leaves an empty slot behind, swept away once the empty ones are the majority;
+  // so an entry that is taken out and added again and again costs nothing but its own work.
+  std::vector<Slot> slots_;
+  Index index_;  // lower-case key -> slot
+  std::size_t removed_ = 0;
+};
+
+// True when the table holds an item under the key; the failed look-up raises no error.
+bool ItemExists(const KeyedTable& collection, std::string_view key);
+
+}  // namespace ordex

@@ -1,0 +1,264 @@
+#include "base/text.h"
+
+#include <utf8proc.h>
+
+#include <array>
+#include <cstring>
+
+#include "base/ascii_words.h"
+
+namespace ordex {
+namespace {
+
+bool IsAscii(char byte) {
+  return static_cast<unsigned char>(byte) < 0x80;
+}
+
+// How many bytes of `text`, from its start, are ASCII. Nearly all text is: it is passed over a
+// word at a time.
+std::size_t AsciiRun(std::string_view text) {
+  std::size_t run = 0;
+  while (text.size() - run >= kWordSize && IsAsciiWord(LoadWord(text.data() + run)))
+    run += kWordSize;
+  while (run < text.size() && IsAscii(text[run])) ++run;
+  return run;
+}
+
+// One character of a text: its code point (-1 for a byte that is no valid UTF-8) and its length in
+// bytes.
+struct Character {
+  utf8proc_int32_t code;
+  std::size_t length;
+};
+
+Character FirstCharacter(std::string_view text) {
+  const auto* bytes = reinterpret_cast<const utf8proc_uint8_t*>(text.data());
+  if (IsAscii(text.front())) return {bytes[0], 1};
+  utf8proc_int32_t code = -1;
+  const utf8proc_ssize_t length =
+      utf8proc_iterate(bytes, static_cast<utf8proc_ssize_t>(text.size()), &code);
+  if (length < 1) return {-1, 1};
+  return {code, static_cast<std::size_t>(length)};
+}
+
+void AppendCodePoint(utf8proc_int32_t code, std::string& out) {
+  std::array<utf8proc_uint8_t, 4> bytes{};
+  const utf8proc_ssize_t length = utf8proc_encode_char(code, bytes.data());
+  out.append(reinterpret_cast<const char*>(bytes.data()), static_cast<std::size_t>(length));
+}
+
+// The byte offset of the character behind the first `count` ones, or the text's size.
+std::size_t OffsetAfter(std::string_view text, std::size_t count) {
+  std::size_t offset = 0;
+  for (;;) {
+    const std::size_t run = AsciiRun(text.substr(offset, count));
+    offset += run;
+    count -= run;
+    if (count == 0 || offset == text.size()) return offset;
+    offset += FirstCharacter(text.substr(offset)).length;
+    --count;
+  }
+}
+
+// Turns round the case of the ASCII letters from `first` ('A' or 'a') on, in place.
+void TurnLetters(char* bytes, std::size_t count, char first) {
+  for (; count >= kWordSize; count -= kWordSize, bytes += kWordSize) {
+    const Word turned = TurnLettersOfWord(LoadWord(bytes), first);
+    std::memcpy(bytes, &turned, kWordSize);
+  }
+  for (; count > 0; --count, ++bytes) {
+    *bytes = static_cast<char>(TurnLettersOfWord(static_cast<unsigned char>(*bytes), first));
+  }
+}
+
+// utf8proc gives the sharp s a capital that the simple mapping (and the databases' own UPPER) does
+// not know.
+utf8proc_int32_t UpperCode(utf8proc_int32_t code) {
+  constexpr utf8proc_int32_t kSharpS = 0xDF;
+  return code == kSharpS ? kSharpS : utf8proc_toupper(code);
+}
+
+// `map` maps a code point; `first` is the first of the ASCII letters that it changes.
+template <class MapCode>
+void AppendMapped(std::string_view text, std::string& out, char first, MapCode map) {
+  for (;;) {
+    const std::size_t run = AsciiRun(text);
+    const std::size_t done = out.size();
+    out.append(text.substr(0, run));
+    TurnLetters(out.data() + done, run, first);
+    text.remove_prefix(run);
+    if (text.empty()) return;
+    const Character character = FirstCharacter(text);
+    if (character.code < 0) {
+      out.push_back(text.front());
+    } else {
+      AppendCodePoint(map(character.code), out);
+    }
+    text.remove_prefix(character.length);
+  }
+}
+
+// The code points of the bytes 0x80 to 0x9F; the five that Windows-1252 leaves open stand for the
+// control characters of the same number, as Windows itself reads them.
+constexpr std::array<utf8proc_int32_t, 32> kWindows1252 = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+}  // namespace
+
+std::size_t CharCount(std::string_view text) {
+  std::size_t count = 0;
+  for (;;) {
+    const std::size_t run = AsciiRun(text);
+    count += run;
+    text.remove_prefix(run);
+    if (text.empty()) return count;
+    text.remove_prefix(FirstCharacter(text).length);
+    ++count;
+  }
+}
+
+bool ShorterThan(std::string_view text, std::size_t count) {
+  if (text.size() < count) return true;
+  // No character takes more than four bytes.
+  if (text.size() > 4 * count) return false;
+  return CharCount(text) < count;
+}
+
+std::string_view Left(std::string_view text, std::size_t count) {
+  return text.substr(0, OffsetAfter(text, count));
+}
+
+std::string_view Right(std::string_view text, std::size_t count) {
+  const std::size_t all = CharCount(text);
+  return all <= count ? text : text.substr(OffsetAfter(text, all - count));
+}
+
+std::string_view From(std::string_view text, std::size_t position) {
+  return position <= 1 ? text : text.substr(OffsetAfter(text, position - 1));
+}
+
+std::size_t Find(std::string_view text, std::string_view wanted, std::size_t start) {
+  const std::size_t offset = text.find(wanted, OffsetAfter(text, start - 1));
+  return offset == std::string_view::npos ? 0 : CharCount(text.substr(0, offset)) + 1;
+}
+
+bool Contains(std::string_view text, std::string_view wanted) {
+  return text.find(wanted) != std::string_view::npos;
+}
+
+std::string_view TrimLeft(std::string_view text) {
+  while (text.starts_with(' ')) text.remove_prefix(1);
+  return text;
+}
+
+std::string_view Trim(std::string_view text) {
+  text = TrimLeft(text);
+  while (text.ends_with(' ')) text.remove_suffix(1);
+  return text;
+}
+
+std::vector<std::string_view> Split(std::string_view text, std::string_view separator,
+                                    std::size_t limit) {
+  std::vector<std::string_view> parts;
+  parts.reserve(4);  // enough for most lines
+  if (!separator.empty()) {
+    while (limit == kNoLimit || parts.size() + 1 < limit) {
+      const std::size_t at = text.find(separator);
+      if (at == std::string_view::npos) break;
+      parts.push_back(text.substr(0, at));
+      text.remove_prefix(at + separator.size());
+    }
+  }
+  parts.push_back(text);
+  return parts;
+}
+
+std::optional<Halves> SplitOnce(std::string_view text, std::string_view separator) {
+  if (separator.empty()) return std::nullopt;
+  const std::size_t at = text.find(separator);
+  if (at == std::string_view::npos) return std::nullopt;
+  return Halves{text.substr(0, at), text.substr(at + separator.size())};
+}
+
+std::string ReplaceAll(std::string_view text, std::string_view wanted, std::string_view by) {
+  std::string result;
+  result.reserve(text.size());
+  while (auto halves = SplitOnce(text, wanted)) {
+    result.append(halves->left).append(by);
+    text = halves->right;
+  }
+  return result.append(text);
+}
+
+void AppendLower(std::string_view text, std::string& out) {
+  AppendMapped(text, out, 'A', utf8proc_tolower);
+}
+
+std::string Lower(std::string_view text) {
+  std::string result;
+  AppendLower(text, result);
+  return result;
+}
+
+std::string Upper(std::string_view text) {
+  std::string result;
+  AppendMapped(text, result, 'a', UpperCode);
+  return result;
+}
+
+bool EqualIgnoringCase(std::string_view a, std::string_view b) {
+  return Lower(a) == Lower(b);
+}
+
+bool IsValidUtf8(std::string_view bytes) {
+  for (;;) {
+    bytes.remove_prefix(AsciiRun(bytes));
+    if (bytes.empty()) return true;
+    const Character character = FirstCharacter(bytes);
+    if (character.code < 0) return false;
+    bytes.remove_prefix(character.length);
+  }
+}
+
+std::string FromWindows1252(std::string_view bytes) {
+  std::string text;
+  text.reserve(bytes.size() + bytes.size() / 8);
+  for (;;) {
+    const std::size_t run = AsciiRun(bytes);
+    text.append(bytes.substr(0, run));
+    bytes.remove_prefix(run);
+    if (bytes.empty()) return text;
+    const auto code = static_cast<unsigned char>(bytes.front());
+    AppendCodePoint(code < 0xA0 ? kWindows1252[code - 0x80U] : code, text);
+    bytes.remove_prefix(1);
+  }
+}
+
+std::string DecodeText(std::string bytes) {
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  if (bytes.starts_with(kByteOrderMark)) bytes.erase(0, kByteOrderMark.size());
+  if (IsValidUtf8(bytes)) return bytes;
+  return FromWindows1252(bytes);
+}
+
+std::string ToCrLf(std::string_view text) {
+  std::string result;
+  result.reserve(text.size() + text.size() / 32);
+  for (;;) {
+    const std::size_t end = text.find('\n');
+    std::string_view line = text.substr(0, end);
+    if (end != std::string_view::npos && line.ends_with('\r')) line.remove_suffix(1);
+    while (const auto halves = SplitOnce(line, "\r")) {
+      result.append(halves->left).append("\r\n");
+      line = halves->right;
+    }
+    result.append(line);
+    if (end == std::string_view::npos) return result;
+    result.append("\r\n");
+    text.remove_prefix(end + 1);
+  }
+}
+
+}  // namespace ordex

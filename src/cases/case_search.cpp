@@ -1,0 +1,137 @@
+#include "cases/case_search.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <unordered_map>
+
+#include "base/text.h"
+#include "cases/case_names.h"
+
+namespace ordex {
+namespace {
+
+// Each finder is one SELECT of ID_Pra, quick on its own: the beginnings of names and numbers are
+// found through an index, the middles by a walk over an index that is narrower than the table.
+// Finders are asked one after the other until there are enough hits.
+constexpr std::string_view kByNumber = "SELECT ID_Pra FROM Pratica WHERE NumeroRegGenerale = ?";
+constexpr std::string_view kByNumberLike =
+    "SELECT ID_Pra FROM Pratica WHERE NumeroRegGenerale LIKE ? ESCAPE '!'";
+constexpr std::string_view kByCounterpartLike =
+    "SELECT ID_Pra FROM Pratica WHERE ControCognome LIKE ? ESCAPE '!'";
+constexpr std::string_view kBySubjectLike =
+    "SELECT ID_Pra FROM Pratica WHERE Oggetto LIKE ? ESCAPE '!'";
+constexpr std::array<std::string_view, 2> kByPersonLike = {
+    "SELECT p.ID_Pra FROM Anagrafica a JOIN Pratica p ON p.ID_Cliente = a.ID_Ana "
+    "WHERE a.Cognome LIKE ? ESCAPE '!' AND a.ID_Ana <> 1",
+    "SELECT p.ID_Pra FROM Anagrafica a JOIN Pratica p ON p.ID_Controparte = a.ID_Ana "
+    "WHERE a.Cognome LIKE ? ESCAPE '!' AND a.ID_Ana <> 1"};
+constexpr std::string_view kAndFirstName = " AND a.Nome LIKE ? ESCAPE '!'";
+
+// Middles are looked for from this length on: shorter texts stand in nearly every case.
+constexpr std::size_t kShortestMiddle = 3;
+
+std::string Escaped(std::string_view text) {
+  std::string pattern;
+  for (const char letter : text) {
+    if (std::string_view("!%_[").find(letter) != std::string_view::npos) pattern.push_back('!');
+    pattern.push_back(letter);
+  }
+  return pattern;
+}
+
+std::string BeginsWith(std::string_view text) {
+  return Escaped(text) + "%";
+}
+
+std::string Holds(std::string_view text) {
+  return "%" + Escaped(text) + "%";
+}
+
+class Search {
+ public:
+  explicit Search(Connection& connection) : connection_(connection) {}
+
+  bool Enough() const { return hits_.size() >= kMostHits; }
+
+  void Ask(std::string_view select, const std::vector<Value>& parameters) {
+    if (Enough()) return;
+    const auto query =
+        connection_.PrepareNative(connection_.Limited(std::string(select), kMostHits), parameters);
+    for (const Row& row : query->FetchAll()) {
+      const std::int32_t id = ToInt32(row[0]);
+      const bool known = std::find(hits_.begin(), hits_.end(), id) != hits_.end();
+      if (!known && !Enough()) hits_.push_back(id);
+    }
+  }
+
+  // Parties whose surname, or surname and first name, begin with the text. Where the one ends and
+  // the other begins is not known: every blank may stand between them.
+  void AskForParties(std::string_view text) {
+    for (const std::string_view select : kByPersonLike) Ask(select, {BeginsWith(text)});
+    for (std::size_t at = text.find(' '); at != std::string_view::npos; at = text.find(' ', at + 1)) {
+      for (const std::string_view select : kByPersonLike) {
+        Ask(std::string(select).append(kAndFirstName),
+            {BeginsWith(text.substr(0, at)), BeginsWith(text.substr(at + 1))});
+      }
+    }
+    Ask(kByCounterpartLike, {BeginsWith(text)});
+  }
+
+  void AskForMiddles(std::string_view text) {
+    if (ShorterThan(text, kShortestMiddle)) return;
+    for (const std::string_view select : kByPersonLike) Ask(select, {Holds(text)});
+    Ask(kByCounterpartLike, {Holds(text)});
+    Ask(kBySubjectLike, {Holds(text)});
+  }
+
+  std::vector<FoundCase> Found() const;
+
+ private:
+  Connection& connection_;
+  std::vector<std::int32_t> hits_;
+};
+
+std::vector<FoundCase> Search::Found() const {
+  if (hits_.empty()) return {};
+  std::string select(kSelectCaseNames);
+  select.append(" WHERE p.ID_Pra IN (");
+  for (const std::int32_t id : hits_) select.append(std::to_string(id)).push_back(',');
+  select.back() = ')';
+  std::unordered_map<std::int32_t, FoundCase> cases;
+  for (const Row& row : connection_.PrepareNative(select, {})->FetchAll()) {
+    const CaseNames names = ReadCaseNames(row);
+    cases[names.idPra] = {names.idPra, names.numeroRG, names.Title()};
+  }
+  std::vector<FoundCase> found;
+  for (const std::int32_t id : hits_) {
+    const auto one = cases.find(id);
+    if (one != cases.end()) found.push_back(one->second);
+  }
+  return found;
+}
+
+// What to look for where `text` is a case's title, or a piece of it: the number at its end, else
+// the client at its beginning.
+std::string_view TellingPiece(std::string_view text) {
+  if (const auto halves = SplitOnce(text, kBeforeNumber)) {
+    if (!Trim(halves->right).empty()) return Trim(halves->right);
+  }
+  if (const auto halves = SplitOnce(text, kBetweenParties)) return Trim(halves->left);
+  return text;
+}
+
+}  // namespace
+
+std::vector<FoundCase> SearchCases(Connection& connection, std::string_view text) {
+  const std::string_view wanted = TellingPiece(Trim(text));
+  if (wanted.empty()) return {};
+  Search search(connection);
+  search.Ask(kByNumber, {std::string(wanted)});
+  search.Ask(kByNumberLike, {BeginsWith(wanted)});
+  search.AskForParties(wanted);
+  search.AskForMiddles(wanted);
+  return search.Found();
+}
+
+}  // namespace ordex

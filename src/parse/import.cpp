@@ -1,0 +1,67 @@
+#include "parse/import.h"
+
+#include "base/text.h"
+#include "base/text_file.h"
+#include "parse/mapping_files.h"
+#include "parse/page_rules.h"
+
+namespace ordex {
+namespace {
+
+// Page kinds that the program has no rules for are read on without doing anything.
+class NoRules : public PageRules {
+ public:
+  AfterLine Apply(PageLine) override { return AfterLine::kReadOn; }
+};
+
+std::unique_ptr<PageRules> MakeRules(std::int16_t kind, const RulesContext& context) {
+  switch (kind) {
+    case kPageProfile: return MakeProfileRules(context);
+    default: return std::make_unique<NoRules>();
+  }
+}
+
+void ReadLines(PageReader& reader, PageRules& rules) {
+  while (!reader.AtEnd()) {
+    PageLine line = reader.Next();
+    line.text = Trim(line.text);
+    if (rules.Apply(line) == AfterLine::kStop) return;
+  }
+}
+
+std::optional<ImportStop> ReadPage(const ImportTask& task, std::string_view text,
+                                   std::int16_t kind) {
+  PageReader reader(text, task.trace);
+  const auto rules =
+      MakeRules(kind, {task.mappings, task.page, task.paging, task.sink, reader});
+  try {
+    ReadLines(reader, *rules);
+  } catch (const RunTimeError& error) {
+    const PageLine& line = reader.InWork();
+    return ImportStop{error, line.number, std::string(line.text), true};
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::filesystem::path PageFile(const std::filesystem::path& programFolder,
+                               std::string_view szNameInput) {
+  return programFolder / std::filesystem::path(std::string(szNameInput) + ".txt");
+}
+
+std::optional<ImportStop> Import(const ImportTask& task, std::string_view szNameInput,
+                                 std::int16_t iOrdexPage) {
+  task.page.cDatiFasc.Clear();
+  task.sink.SetWidthlstImport(iOrdexPage);
+  try {
+    LoadDelimitatori(task.mappings);
+    return ReadPage(task, ReadTextFile(PageFile(task.programFolder, szNameInput)), iOrdexPage);
+  } catch (const FileLineError& error) {
+    return ImportStop{error, error.line(), {}, false};
+  } catch (const RunTimeError& error) {
+    return ImportStop{error, 0, {}, false};
+  }
+}
+
+}  // namespace ordex

@@ -1,0 +1,56 @@
+#include "parse/page_rules.h"
+
+#include <string>
+
+#include "base/error.h"
+#include "parse/mapping_files.h"
+
+namespace ordex {
+
+PageLine PageReader::Next() {
+  if (handedBack_) {
+    const PageLine line = *handedBack_;
+    handedBack_.reset();
+    WorkOn(line);
+    return line;
+  }
+  if (lines_.AtEnd()) {
+    throw MakeError(ErrorNumber::kPastEndOfFile, "la pagina finisce dove si attendeva altro testo");
+  }
+  inWork_ = {lines_.Next(), ++count_};
+  if (trace_ != nullptr) trace_->Read(inWork_);
+  return inWork_;
+}
+
+std::string_view Delimiter::Find() const {
+  const std::string* text = cDelimitatori_.Lookup(key_);
+  if (text == nullptr) {
+    throw MakeError(ErrorNumber::kMissingKey, "\"" + std::string(key_) + "\" manca nel file \"" +
+                                                  kMapDelimitatori +
+                                                  "\": aggiungere la riga testo=" +
+                                                  std::string(key_));
+  }
+  return *text;
+}
+
+const std::string& FieldOf(const KeyedTable& cOrdexMap, std::string_view label) {
+  const std::string* field = cOrdexMap.Lookup(label);
+  if (field == nullptr) {
+    throw MakeError(ErrorNumber::kMissingKey, "\"" + std::string(label) + "\" manca nel file \"" +
+                                                  kMapCampi + "\": aggiungere la riga campo=" +
+                                                  std::string(label));
+  }
+  return *field;
+}
+
+void StoreValue(KeyedTable& cDatiFasc, const std::string& NomeDb, std::string_view value) {
+  if (!cDatiFasc.Exists(NomeDb)) {
+    cDatiFasc.Add(std::string(value), NomeDb);
+    return;
+  }
+  std::string joined = cDatiFasc.Take(NomeDb);
+  joined.append("; \r\n").append(value);
+  cDatiFasc.Add(std::move(joined), NomeDb);
+}
+
+}  // namespace ordex

@@ -1,0 +1,93 @@
+#include "store/case_record.h"
+
+#include <string>
+
+#include "store/db/transaction.h"
+#include "store/persons.h"
+
+namespace ordex {
+namespace {
+
+constexpr std::int64_t kNobody = 1;
+
+std::string CounsellorOfCounterpart(const CaseChoice& choice) {
+  const int place = choice.cmbParti[kBoxCounterpart].index;
+  return choice.difensori.Item("CO" + std::to_string(place));
+}
+
+// The position is computed twice, on purpose: another user may create a case in between.
+void SetCreationColumns(DbRecord& record, const CaseRecordTask& task, std::int32_t idCliente) {
+  record.Set("Posizione", std::int64_t{CalcolaNumPos(task.database)});
+  record.Set("ID_Cliente", std::int64_t{idCliente});
+  record.Set("ID_Controparte", kNobody);
+  record.Set("ID_Acp", kNobody);
+  record.Set("DataInizio", DateOnly(task.clock.Now()));
+  record.Set("ID_Cla", std::int64_t{1});
+  record.Set("ID_FatturareA", std::int64_t{idCliente});
+  record.Set("NumPos", std::int64_t{CalcolaNumPos(task.database)});
+  record.Set("ID_Riservata", std::int64_t{0});
+  record.Set("Fk_Gruppo", Null{});
+  record.Set("ID_Corrispondente", kNobody);
+  record.Set("Cambio", 1936.27);
+  record.Set("Valuta", std::string("EURO"));
+  record.Set("Rilevanza", std::int64_t{100});
+  record.Set("ControCognome", task.choice.cmbParti[kBoxCounterpart].Text());
+  record.Set("AcpCognome", CounsellorOfCounterpart(task.choice));
+  record.Set("ID_Contab", std::int64_t{task.choice.lIdContab});
+}
+
+void SetIfRead(DbRecord& record, const KeyedTable& cDatiFasc, std::string_view column) {
+  if (const std::string* value = cDatiFasc.Lookup(column)) record.Set(column, *value);
+}
+
+void SetPageColumns(DbRecord& record, const Page& page) {
+  if (page.pageAtOpening == kPageProfile) {
+    record.Set("NumeroRegGenerale", page.cDatiFasc.Item("NumeroRegGenerale"));
+    SetIfRead(record, page.cDatiFasc, "Sezione");
+  } else {
+    record.Set("NumeroRegGenerale", page.szNumeroRG);
+  }
+  SetIfRead(record, page.cDatiFasc, "Istruttore");
+  SetIfRead(record, page.cDatiFasc, "Oggetto");
+}
+
+// Writes the case row and returns its ID_Pra.
+std::int32_t WriteCaseRow(DbRecord& record, const CaseRecordTask& task, bool create,
+                          std::int32_t idCliente) {
+  if (create) {
+    record.recordset().AddNew();
+    SetCreationColumns(record, task, idCliente);
+  }
+  SetPageColumns(record, task.page);
+  record.recordset().Update();
+  return ToInt32(record.Get("ID_Pra"));
+}
+
+}  // namespace
+
+bool RegistraPratica(const CaseRecordTask& task, std::int32_t idPra) {
+  return TrapErrors(task.database, "RegistraPratica", [&] {
+    DbRecord record;
+    record.Open(task.database, "SELECT * FROM Pratica WHERE Id_Pra = " + std::to_string(idPra),
+                kForChanges);
+    const bool create = idPra == 0;
+    std::int32_t idCliente = 0;
+    if (create) {
+      idCliente = CercaAnagrafica(task.database, task.choice.cmbParti[kBoxClient].Text(),
+                                  task.frmInfoAnagrafica, task.bCollegareAna, task.boxes);
+    }
+    InTransaction(task.database, [&] {
+      const std::int32_t written = WriteCaseRow(record, task, create, idCliente);
+      RegistraDatiOrdex(task.database, written, task.page, task.lstImport, task.clock,
+                        task.agenda);
+    });
+  });
+}
+
+std::int32_t CalcolaNumPos(const Database& database) {
+  DbRecord record;
+  record.Open(database, "SELECT MAX(NumPos) AS PosMax FROM Pratica", kForChanges);
+  return ToInt32(record.Get("PosMax")) + 1;
+}
+
+}  // namespace ordex

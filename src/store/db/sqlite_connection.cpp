@@ -1,0 +1,189 @@
+#include "store/db/sqlite_connection.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "base/error.h"
+#include "store/db/dialect.h"
+#include "store/db/sqlite_catalog.h"
+#include "store/db/sqlite_driver.h"
+#include "store/db/sqlite_error.h"
+#include "store/db/sqlite_file.h"
+#include "store/db/sqlite_functions.h"
+#include "store/db/sqlite_query.h"
+#include "store/db/sqlite_statement.h"
+
+namespace ordex {
+namespace {
+
+std::string QuotedName(std::string_view name) {
+  std::string quoted = "\"";
+  for (const char character : name) {
+    quoted.push_back(character);
+    if (character == '"') quoted.push_back('"');
+  }
+  return quoted + "\"";
+}
+
+// The last INSERT or UPDATE, kept prepared: rows of one shape mostly come in a row.
+class KeptWrite {
+ public:
+  bool Fits(const std::string& table, std::span<const NamedValue> values,
+            std::string_view key) const {
+    return statement_ && table == table_ && key == key_ &&
+           std::equal(values.begin(), values.end(), columns_.begin(), columns_.end(),
+                      [](const NamedValue& value, const std::string& column) {
+                        return value.first == column;
+                      });
+  }
+
+  void Keep(SqliteStatement statement, const std::string& table, std::span<const NamedValue> values,
+            std::string_view key) {
+    statement_ = std::move(statement);
+    table_ = table;
+    key_ = key;
+    columns_.clear();
+    for (const NamedValue& value : values) columns_.push_back(value.first);
+  }
+
+  // `keyValue` is the last parameter, where there is one.
+  void Run(std::span<const NamedValue> values, const Value* keyValue) {
+    const ResetLater reset(*statement_);
+    int parameter = 0;
+    for (const NamedValue& value : values) statement_->Bind(++parameter, value.second);
+    if (keyValue != nullptr) statement_->Bind(++parameter, *keyValue);
+    while (statement_->Step()) {
+    }
+  }
+
+ private:
+  std::optional<SqliteStatement> statement_;
+  std::string table_;
+  std::string key_;
+  std::vector<std::string> columns_;
+};
+
+std::string InsertSql(const std::string& table, std::span<const NamedValue> values) {
+  std::string sql = "INSERT INTO " + QuotedName(table);
+  if (values.empty()) return sql + " DEFAULT VALUES";
+  std::string places;
+  const char* separator = " (";
+  for (const NamedValue& value : values) {
+    sql.append(separator).append(QuotedName(value.first));
+    places.append(places.empty() ? "?" : ", ?");
+    separator = ", ";
+  }
+  return sql.append(") VALUES (").append(places).append(")");
+}
+
+std::string UpdateSql(const std::string& table, std::span<const NamedValue> values,
+                      const std::string& key) {
+  std::string sql = "UPDATE " + QuotedName(table);
+  const char* separator = " SET ";
+  for (const NamedValue& value : values) {
+    sql.append(separator).append(QuotedName(value.first)).append(" = ?");
+    separator = ", ";
+  }
+  return sql.append(" WHERE ").append(QuotedName(key)).append(" = ?");
+}
+
+class SqliteConnection final : public Connection {
+ public:
+  explicit SqliteConnection(SqliteHandle database)
+      : catalog_(std::make_shared<SqliteCatalog>(std::move(database))) {}
+
+  std::unique_ptr<Query> Prepare(std::string_view sql) override {
+    const std::vector<Token> tokens = Tokenize(sql);
+    RequireOneSelect(tokens);
+    return Prepared(RewriteForSqlite(tokens, *catalog_), {});
+  }
+
+  std::unique_ptr<Query> PrepareNative(std::string_view sql,
+                                       std::span<const Value> parameters) override {
+    return Prepared(sql, {parameters.begin(), parameters.end()});
+  }
+
+  void Execute(std::string_view sql) override {
+    const std::vector<Token> tokens = Tokenize(sql);
+    RequireOneStatement(tokens);
+    SqliteStatement statement(database(), RewriteForSqlite(tokens, *catalog_));
+    const ResetLater reset(statement);
+    while (statement.Step()) {
+    }
+  }
+
+  const std::vector<ColumnInfo>& TableColumns(const std::string& table) override {
+    return catalog_->Columns(table);
+  }
+
+  std::int64_t Insert(const std::string& table, std::span<const NamedValue> values) override {
+    if (!insert_.Fits(table, values, {})) {
+      SqliteStatement statement(database(), InsertSql(table, values), SQLITE_PREPARE_PERSISTENT);
+      insert_.Keep(std::move(statement), table, values, {});
+      const std::vector<ColumnInfo>& columns = catalog_->Columns(table);
+      insert_assigns_ = std::any_of(columns.begin(), columns.end(),
+                                    [](const ColumnInfo& column) { return column.identity; });
+    }
+    insert_.Run(values, nullptr);
+    return insert_assigns_ ? sqlite3_last_insert_rowid(database()) : 0;
+  }
+
+  std::int64_t UpdateRow(const std::string& table, std::span<const NamedValue> values,
+                         const std::string& key, const Value& keyValue) override {
+    if (values.empty()) return 0;
+    if (!update_.Fits(table, values, key)) {
+      SqliteStatement statement(database(), UpdateSql(table, values, key),
+                                SQLITE_PREPARE_PERSISTENT);
+      update_.Keep(std::move(statement), table, values, key);
+    }
+    update_.Run(values, &keyValue);
+    return sqlite3_changes64(database());
+  }
+
+  // Immediate: a reader that turns writer would be refused at once, however long it may wait.
+  void Begin() override { RunSqlite(database(), "BEGIN IMMEDIATE"); }
+  void Commit() override { RunSqlite(database(), "COMMIT"); }
+  void Rollback() override { RunSqlite(database(), "ROLLBACK"); }
+  bool InTransaction() const override { return sqlite3_get_autocommit(database()) == 0; }
+
+  std::string Limited(const std::string& select, std::size_t count) const override {
+    return select + " LIMIT " + std::to_string(count);
+  }
+
+ private:
+  sqlite3* database() const { return catalog_->database(); }
+
+  std::unique_ptr<Query> Prepared(std::string_view sql, std::vector<Value> parameters) {
+    return std::make_unique<SqliteQuery>(catalog_, SqliteStatement(database(), sql),
+                                         std::move(parameters));
+  }
+
+  std::shared_ptr<SqliteCatalog> catalog_;
+  KeptWrite insert_;
+  bool insert_assigns_ = false;
+  KeptWrite update_;
+};
+
+void SetUp(sqlite3* database) {
+  RunSqlite(database, "PRAGMA synchronous=FULL");
+  RunSqlite(database, "PRAGMA foreign_keys=OFF");
+  // Else a column that does not exist would quietly be taken for a text.
+  sqlite3_db_config(database, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+  AddUnicodeFunctions(database);
+}
+
+}  // namespace
+
+std::unique_ptr<Connection> OpenSqliteWaiting(const std::filesystem::path& file,
+                                              std::chrono::milliseconds busyTimeOut) {
+  SqliteHandle database = OpenSqliteFile(file, static_cast<int>(busyTimeOut.count()));
+  SetUp(database.get());
+  return std::make_unique<SqliteConnection>(std::move(database));
+}
+
+std::unique_ptr<Connection> OpenSqlite(const std::filesystem::path& file) {
+  return OpenSqliteWaiting(file, kBusyTimeOut);
+}
+
+}  // namespace ordex

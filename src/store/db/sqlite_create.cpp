@@ -1,0 +1,112 @@
+#include <array>
+#include <cstdio>
+#include <memory>
+#include <random>
+#include <string>
+#include <system_error>
+
+#include "store/db/embedded_sql.h"
+#include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_error.h"
+#include "store/db/sqlite_file.h"
+
+namespace ordex {
+namespace fs = std::filesystem;
+namespace {
+
+RunTimeError CreateError(const fs::path& file, std::string_view problem) {
+  return SqliteFileError(file, "impossibile creare il database: " + std::string(problem));
+}
+
+RunTimeError ExistsError(const fs::path& file) {
+  return CreateError(file, "il file esiste già; indicare un altro nome o spostare il file");
+}
+
+constexpr std::array<std::string_view, 3> kWorkingFiles = {"-wal", "-shm", "-journal"};
+
+// What a database of the same name left behind would be played back into the new one.
+void RequireFree(const fs::path& file) {
+  std::error_code ignored;
+  if (fs::exists(fs::symlink_status(file, ignored))) throw ExistsError(file);
+  for (const std::string_view ending : kWorkingFiles) {
+    const fs::path beside = fs::path(file).concat(ending);
+    if (fs::exists(beside, ignored)) {
+      throw CreateError(file, "accanto c'è ancora \"" + beside.string() +
+                                  "\", resto di un altro database; spostarlo o cancellarlo");
+    }
+  }
+}
+
+// A file beside the wanted one, removed with all that the engine puts beside it.
+class TemporaryFile {
+ public:
+  explicit TemporaryFile(const fs::path& wanted)
+      : path_(fs::path(wanted).concat("." + std::to_string(std::random_device{}()) + ".nuovo")) {}
+  ~TemporaryFile() {
+    std::error_code ignored;
+    fs::remove(path_, ignored);
+    for (const std::string_view ending : kWorkingFiles) {
+      fs::remove(fs::path(path_).concat(ending), ignored);
+    }
+  }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+  const fs::path& path() const { return path_; }
+
+ private:
+  fs::path path_;
+};
+
+void Fill(sqlite3* database, bool sample) {
+  RunSqlite(database, "PRAGMA journal_mode=WAL");
+  RunSqlite(database, "BEGIN IMMEDIATE");
+  RunSqlite(database, std::string(kEmbeddedTables).c_str());
+  if (sample) RunSqlite(database, std::string(kSampleOffice).c_str());
+  RunSqlite(database, "COMMIT");
+}
+
+// For file systems without links: takes the name by making an empty file, which fails where there
+// is one, and puts the database in its place.
+void MoveInto(const fs::path& made, const fs::path& file) {
+  struct Closer {
+    void operator()(std::FILE* stream) const { std::fclose(stream); }
+  };
+  std::error_code failure;
+  {
+    const std::unique_ptr<std::FILE, Closer> reserved(std::fopen(file.string().c_str(), "wbx"));
+    if (!reserved) {
+      if (fs::exists(file, failure)) throw ExistsError(file);
+      throw CreateError(file, SqliteErrorText(SQLITE_CANTOPEN, {}));
+    }
+  }
+  fs::rename(made, file, failure);
+  if (failure) {
+    std::error_code ignored;
+    fs::remove(file, ignored);
+    throw CreateError(file, SqliteErrorText(SQLITE_CANTOPEN, {}));
+  }
+}
+
+void PutInPlace(const fs::path& made, const fs::path& file) {
+  std::error_code failure;
+  fs::create_hard_link(made, file, failure);
+  if (failure == std::errc::file_exists) throw ExistsError(file);
+  if (failure) MoveInto(made, file);
+}
+
+}  // namespace
+
+void CreateSqliteDatabase(const fs::path& file, bool sample) {
+  RequireFree(file);
+  const TemporaryFile made(file);
+  try {
+    const SqliteHandle database = MakeSqliteFile(made.path());
+    Fill(database.get(), sample);
+  } catch (const RunTimeError& error) {
+    throw SqliteFileError(file, error.description());
+  }
+  PutInPlace(made.path(), file);
+}
+
+}  // namespace ordex

@@ -1,0 +1,23 @@
+// Opening the embedded engine's files, without any table work.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "store/db/sqlite_statement.h"
+
+namespace ordex {
+
+// The file's name as the engine wants it: UTF-8 and absolute. A relative name could begin with
+// "file:" or ":" and would not be taken as a name.
+std::string SqliteFileName(const std::filesystem::path& file);
+
+// Opens an existing database file for reading and writing, or for reading where the rights allow no
+// more, and makes sure that it is one. Errors (database), naming the file: absent, no file, empty,
+// no rights, no database.
+SqliteHandle OpenSqliteFile(const std::filesystem::path& file, int busyMilliseconds);
+
+// Makes a new, empty database. Error (database), naming the file.
+SqliteHandle MakeSqliteFile(const std::filesystem::path& file);
+
+}  // namespace ordex

@@ -1,0 +1,45 @@
+// The logic of the person dialog frmInfoAnagrafica: a row of the registry as a short card.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "state/dialogs.h"
+#include "state/ports.h"
+#include "store/db/db_record.h"
+
+namespace ordex {
+
+// What the card is shown for.
+inline constexpr std::int16_t kCardOnly = 1;
+inline constexpr std::int16_t kCardWithQuestion = 2;
+
+class PersonDialog {
+ public:
+  PersonDialog(PersonCard& card, bool& bCollegareAna, Dialogs& dialogs, Desktop& desktop,
+               MessageBoxes& boxes);
+
+  // Loads the dialog, which sets bCollegareAna to false, and fills it from the record's current
+  // row. Errors: of the record.
+  void ValorizzaInfo(DbRecord& record, std::int16_t mode);
+  // Shows the dialog and waits until it is closed.
+  void ShowModal();
+
+  void cmdSi_Click();
+  void cmdNo_Click();
+  void lblInfo2_Click();
+  // Closed without an answer.
+  void Close();
+
+ private:
+  bool InviaEmail(std::string_view address, std::string_view subject, std::string_view body);
+
+  PersonCard& card_;
+  bool& bCollegareAna_;
+  Dialogs& dialogs_;
+  Desktop& desktop_;
+  MessageBoxes& boxes_;
+};
+
+}  // namespace ordex
