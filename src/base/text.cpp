@@ -18,8 +18,9 @@ bool IsAscii(char byte) {
 // word at a time.
 std::size_t AsciiRun(std::string_view text) {
   std::size_t run = 0;
-  while (text.size() - run >= kWordSize && IsAsciiWord(LoadWord(text.data() + run)))
+  while (text.size() - run >= kWordSize && IsAsciiWord(LoadWord(text.data() + run))) {
     run += kWordSize;
+  }
   while (run < text.size() && IsAscii(text[run])) ++run;
   return run;
 }

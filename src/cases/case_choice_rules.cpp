@@ -32,7 +32,7 @@ void CercaPratica(const Database& database, std::string_view szNumeroRG, CaseCho
   record.Open(database, szSql, kForReadingToo);
   choice.iCountPra = ToCount(record.recordset().RecordCount());
   if (choice.iCountPra > 0) {
-    choice.lIdPratica = ToInt32(record.Get("ID_Pra"));
+    choice.lIdPratica = AsInt32(record.Get("ID_Pra"));
     ctlTestata1.LoadCase(choice.lIdPratica);
   }
 }
@@ -72,7 +72,7 @@ void LoadUteContabilita(const Database& database, CaseChoice& choice) {
   record.Open(database, "Select ID_Utente, NomeUtente from Utenti where TitContabilita = 'TRUE'",
               kForReadingToo);
   for (Recordset& rows = record.recordset(); !rows.Eof(); rows.MoveNext()) {
-    box.items.push_back({ToText(rows.Get("NomeUtente")), ToInt32(rows.Get("ID_Utente"))});
+    box.items.push_back({ToText(rows.Get("NomeUtente")), AsInt32(rows.Get("ID_Utente"))});
   }
   record.Close();
   if (box.items.empty()) {

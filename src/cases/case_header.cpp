@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view kSelectCase = "SELECT * FROM Pratica WHERE ID_Pra = ?";
 
 // The column's value, or Null where the table has no such column: an older case database lacks some.
-Value Column(const std::vector<ColumnInfo>& columns, const Row& row, std::string_view name) {
+Value ColumnValue(const std::vector<ColumnInfo>& columns, const Row& row, std::string_view name) {
   const auto found = std::find_if(columns.begin(), columns.end(), [name](const ColumnInfo& column) {
     return EqualIgnoringCase(column.name, name);
   });
@@ -47,13 +47,13 @@ bool CaseHeaderControl::LoadCase(std::int32_t idPra) {
 
   const CaseNames names = ReadCaseNames(named.front());
   const auto text = [&](std::string_view column) {
-    return ToText(Column(query->Columns(), rows.front(), column));
+    return ToText(ColumnValue(query->Columns(), rows.front(), column));
   };
   header_.idPra = idPra;
   header_.numeroRG = names.numeroRG;
   header_.title = names.Title();
   header_.descriptions = {text("Oggetto"), text("Sezione")};
-  header_.penale = ToBool(Column(query->Columns(), rows.front(), "IsPenale"));
+  header_.penale = ToBool(ColumnValue(query->Columns(), rows.front(), "IsPenale"));
   header_.cliente = {names.idCliente, names.cliente};
   header_.controparte = {names.idControparte, names.controparte};
   header_.istruttore = text("Istruttore");

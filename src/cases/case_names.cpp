@@ -10,7 +10,7 @@ constexpr std::int32_t kNobody = 1;
 // The person of three columns: ID_Ana, Cognome, Nome.
 std::int32_t ReadPerson(const Row& row, std::size_t column, std::string& name) {
   if (IsNull(row[column])) return 0;
-  const std::int32_t id = ToInt32(row[column]);
+  const std::int32_t id = AsInt32(row[column]);
   if (id == kNobody) return 0;
   const std::string both = ToText(row[column + 1]) + " " + ToText(row[column + 2]);
   name = Trim(both);
@@ -27,7 +27,7 @@ void AppendPiece(std::string& text, std::string_view separator, std::string_view
 
 CaseNames ReadCaseNames(const Row& row) {
   CaseNames names;
-  names.idPra = ToInt32(row[0]);
+  names.idPra = AsInt32(row[0]);
   names.numeroRG = ToText(row[1]);
   names.idCliente = ReadPerson(row, 2, names.cliente);
   names.idControparte = ReadPerson(row, 5, names.controparte);

@@ -59,7 +59,7 @@ class Search {
     const auto query =
         connection_.PrepareNative(connection_.Limited(std::string(select), kMostHits), parameters);
     for (const Row& row : query->FetchAll()) {
-      const std::int32_t id = ToInt32(row[0]);
+      const std::int32_t id = AsInt32(row[0]);
       const bool known = std::find(hits_.begin(), hits_.end(), id) != hits_.end();
       if (!known && !Enough()) hits_.push_back(id);
     }

@@ -33,10 +33,10 @@ std::optional<AgendaCase> FindCase(const Database& database, const SqlText& numb
   record.Open(database, szSql, kForReadingToo);
   if (record.recordset().Eof()) return std::nullopt;
   AgendaCase found;
-  found.idPra = ToInt32(record.Get("ID_Pra"));
-  found.idCliente = ToInt32(record.Get("ID_Cliente"));
-  found.idContab = ToInt32(record.Get("ID_Contab"));
-  found.idControparte = ToInt32(record.Get("ID_Controparte"));
+  found.idPra = AsInt32(record.Get("ID_Pra"));
+  found.idCliente = AsInt32(record.Get("ID_Cliente"));
+  found.idContab = AsInt32(record.Get("ID_Contab"));
+  found.idControparte = AsInt32(record.Get("ID_Controparte"));
   found.nomeUtente = ToText(record.Get("NomeUtente"));
   if (found.idControparte == kNobody) found.controCognome = ToText(record.Get("ControCognome"));
   return found;

@@ -60,7 +60,7 @@ std::int32_t WriteCaseRow(DbRecord& record, const CaseRecordTask& task, bool cre
   }
   SetPageColumns(record, task.page);
   record.recordset().Update();
-  return ToInt32(record.Get("ID_Pra"));
+  return AsInt32(record.Get("ID_Pra"));
 }
 
 }  // namespace
@@ -87,7 +87,7 @@ bool RegistraPratica(const CaseRecordTask& task, std::int32_t idPra) {
 std::int32_t CalcolaNumPos(const Database& database) {
   DbRecord record;
   record.Open(database, "SELECT MAX(NumPos) AS PosMax FROM Pratica", kForChanges);
-  return ToInt32(record.Get("PosMax")) + 1;
+  return AsInt32(record.Get("PosMax")) + 1;
 }
 
 }  // namespace ordex

@@ -55,7 +55,7 @@ std::int32_t FindOrAdd(const Database& database, std::string_view soggetto,
     frmInfoAnagrafica.ShowModal();
   }
   if (!bCollegareAna) AddPerson(record, name);
-  return ToInt32(record.Get("ID_Ana"));
+  return AsInt32(record.Get("ID_Ana"));
 }
 
 }  // namespace

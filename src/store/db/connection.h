@@ -26,8 +26,8 @@ struct ColumnInfo {
   ColumnType type = ColumnType::kText;
   // Text: the most characters it holds. Integer: its width in bytes. 0: no limit known.
   std::size_t size = 0;
-  std::string table;      // the table that it stems from; empty for an expression
-  bool identity = false;  // assigned by the engine
+  std::string table;        // the table that it stems from; empty for an expression
+  bool identity = false;    // assigned by the engine
   bool primaryKey = false;  // alone the primary key of its table
 };
 

@@ -1,7 +1,9 @@
 #include "store/db/db_record.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
+#include <unordered_set>
 #include <utility>
 
 #include "base/error.h"
@@ -18,6 +20,41 @@ std::string Quoted(std::string_view name) {
   return "\"" + std::string(name) + "\"";
 }
 
+RunTimeError NoCurrentRow() {
+  return RecordError("non c'è una riga corrente: il risultato è vuoto o finito");
+}
+
+RunTimeError RowGone(const ColumnInfo& key, const Value& keyValue) {
+  return RecordError("la riga non esiste più nella tabella " + Quoted(key.table) + " (" + key.name +
+                     " " + ToText(keyValue) +
+                     "): un altro programma l'ha cancellata; ripetere l'operazione");
+}
+
+// The one table that the columns stem from; expressions stem from none.
+void RequireOneTable(const std::vector<ColumnInfo>& columns) {
+  const ColumnInfo* first = nullptr;
+  for (const ColumnInfo& column : columns) {
+    if (column.table.empty()) continue;
+    if (first == nullptr) first = &column;
+    if (!EqualAscii(first->table, column.table)) {
+      throw RecordError("il risultato non si può modificare: viene da più tabelle (" +
+                        Quoted(first->table) + ", " + Quoted(column.table) + ")");
+    }
+  }
+}
+
+// A SELECT of those columns of one row that stem from its table.
+std::string SelectRow(const std::vector<ColumnInfo>& columns, const ColumnInfo& key) {
+  std::string select = "SELECT ";
+  const char* separator = "";
+  for (const ColumnInfo& column : columns) {
+    if (column.table.empty()) continue;
+    select.append(separator).append(Quoted(column.name));
+    separator = ", ";
+  }
+  return select + " FROM " + Quoted(key.table) + " WHERE " + Quoted(key.name) + " = ?";
+}
+
 }  // namespace
 
 Recordset::Recordset(Connection& connection, std::unique_ptr<Query> query, bool updatable)
@@ -27,24 +64,21 @@ Recordset::Recordset(Connection& connection, std::unique_ptr<Query> query, bool 
 
 void Recordset::Fetch() {
   if (fetched_) return;
-  std::vector<Row> rows = query_->FetchAll();
+  std::vector<Row> selected = query_->FetchAll();
   fetched_ = true;
-  if (added_.empty()) {
-    rows_ = std::move(rows);
+  if (rows_.empty()) {
+    rows_ = std::move(selected);
     return;
   }
-  // Rows added before may be among those selected now; each counts once, behind the others.
+  // Rows added before may be among those selected now; each counts once.
   const std::size_t key = KeyColumn();
-  std::erase_if(rows, [&](const Row& row) {
-    return std::any_of(rows_.begin(), rows_.end(), [&](const Row& added) {
-      return !IsNull(added[key]) && added[key] == row[key];
-    });
-  });
-  current_ += rows.size();
-  for (AddedRow& added : added_) added.place += rows.size();
-  rows.insert(rows.end(), std::make_move_iterator(rows_.begin()),
-              std::make_move_iterator(rows_.end()));
-  rows_ = std::move(rows);
+  std::unordered_set<std::string> added;
+  for (const Row& row : rows_) added.insert(ToText(row[key]));
+  std::erase_if(selected, [&](const Row& row) { return added.contains(ToText(row[key])); });
+  current_ += selected.size();
+  selected.insert(selected.end(), std::make_move_iterator(rows_.begin()),
+                  std::make_move_iterator(rows_.end()));
+  rows_ = std::move(selected);
 }
 
 std::size_t Recordset::RecordCount() {
@@ -53,7 +87,7 @@ std::size_t Recordset::RecordCount() {
 }
 
 bool Recordset::Eof() {
-  // On a row that was added here nothing need be read to know it.
+  // A row added here is current without anything having been read.
   if (current_ < rows_.size()) return false;
   Fetch();
   return current_ >= rows_.size();
@@ -61,8 +95,8 @@ bool Recordset::Eof() {
 
 void Recordset::MoveNext() {
   if (HasChanges()) Update();
-  if (Eof()) throw RecordError("non c'è una riga corrente: il risultato è finito o vuoto");
   Fetch();
+  CurrentRow();
   ++current_;
 }
 
@@ -79,7 +113,7 @@ std::size_t Recordset::ColumnIndex(std::string_view name) {
 }
 
 Row& Recordset::CurrentRow() {
-  if (Eof()) throw RecordError("non c'è una riga corrente: il risultato è finito o vuoto");
+  if (Eof()) throw NoCurrentRow();
   return rows_[current_];
 }
 
@@ -90,70 +124,52 @@ Value Recordset::Get(std::string_view column) {
   }
   if (adding_) return Null{};
   const Row& row = CurrentRow();
-  const auto added = std::find_if(added_.begin(), added_.end(),
-                                  [&](const AddedRow& each) { return each.place == current_; });
-  if (added != added_.end() && !added->known[index]) ReadAgain(*added);
+  const std::size_t first_added = rows_.size() - known_.size();
+  if (current_ >= first_added && !known_[current_ - first_added][index]) ReadAgain(current_);
   return row[index];
 }
 
-// What the engine put into the columns of a new row that were not set.
-void Recordset::ReadAgain(AddedRow& added) {
+// Reads what the engine put into those columns of a new row that were not set.
+void Recordset::ReadAgain(std::size_t place) {
   const std::vector<ColumnInfo>& columns = Fields();
   const std::size_t key = KeyColumn();
-  std::string select;
-  std::vector<std::size_t> places;
-  for (std::size_t i = 0; i < columns.size(); ++i) {
-    if (columns[i].table.empty()) continue;
-    select.append(places.empty() ? "SELECT " : ", ").append(Quoted(columns[i].name));
-    places.push_back(i);
-  }
-  select.append(" FROM ").append(Quoted(columns[key].table));
-  select.append(" WHERE ").append(Quoted(columns[key].name)).append(" = ?");
-  Row& row = rows_[added.place];
-  const Value key_value = row[key];
+  const Value key_value = rows_[place][key];
+  const std::string select = SelectRow(columns, columns[key]);
   std::vector<Row> found = connection_.PrepareNative(select, {&key_value, 1})->FetchAll();
-  if (found.size() != 1) throw RecordError(GoneText(columns[key], key_value));
-  for (std::size_t i = 0; i < places.size(); ++i) row[places[i]] = std::move(found[0][i]);
-  added.known.assign(columns.size(), true);
+  if (found.size() != 1) throw RowGone(columns[key], key_value);
+  auto value = found.front().begin();
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    if (!columns[i].table.empty()) rows_[place][i] = std::move(*value++);
+  }
+  known_[place - (rows_.size() - known_.size())].assign(columns.size(), true);
 }
 
 // --- writing ------------------------------------------------------------------------------------
 
-void Recordset::RequireUpdatable() const {
+void Recordset::RequireOpenForChanges() const {
   if (!updatable_) {
-    throw RecordError("il risultato è aperto in sola lettura (serve il modo di apertura 3)");
+    throw RecordError("il risultato è aperto in sola lettura (per scrivere serve il modo 3)");
   }
 }
 
 std::size_t Recordset::KeyColumn() {
   const std::vector<ColumnInfo>& columns = Fields();
-  const std::string* table = nullptr;
-  for (const ColumnInfo& column : columns) {
-    if (column.table.empty()) continue;
-    if (table != nullptr && !EqualAscii(*table, column.table)) {
-      throw RecordError("il risultato non si può modificare: viene da più tabelle (" +
-                        Quoted(*table) + " e " + Quoted(column.table) + ")");
-    }
-    table = &column.table;
+  RequireOneTable(columns);
+  auto key = std::find_if(columns.begin(), columns.end(),
+                          [](const ColumnInfo& column) { return column.identity; });
+  if (key == columns.end()) {
+    key = std::find_if(columns.begin(), columns.end(),
+                       [](const ColumnInfo& column) { return column.primaryKey; });
   }
-  const auto is_identity = [](const ColumnInfo& column) { return column.identity; };
-  const auto is_key = [](const ColumnInfo& column) { return column.primaryKey; };
-  auto key = std::find_if(columns.begin(), columns.end(), is_identity);
-  if (key == columns.end()) key = std::find_if(columns.begin(), columns.end(), is_key);
   if (key == columns.end()) {
     throw RecordError(
-        "il risultato non si può modificare: tra le colonne lette non c'è la chiave della tabella");
+        "il risultato non si può modificare: tra le colonne lette manca la chiave della tabella");
   }
   return static_cast<std::size_t>(key - columns.begin());
 }
 
-std::string Recordset::GoneText(const ColumnInfo& key, const Value& keyValue) {
-  return "la riga non esiste più nella tabella " + Quoted(key.table) + " (" + key.name + " " +
-         ToText(keyValue) + "): qualcun altro l'ha cancellata; ripetere l'operazione";
-}
-
 void Recordset::AddNew() {
-  RequireUpdatable();
+  RequireOpenForChanges();
   KeyColumn();
   if (HasChanges()) Update();
   adding_ = true;
@@ -163,17 +179,17 @@ void Recordset::Set(std::string_view column, const Value& value) {
   const std::size_t index = ColumnIndex(column);
   if (!adding_) CurrentRow();
   Value fitted = FitToColumn(value, Fields()[index]);
-  for (Change& change : changes_) {
-    if (change.column == index) {
-      change.value = std::move(fitted);
-      return;
-    }
+  const auto known = std::find_if(changes_.begin(), changes_.end(),
+                                  [&](const Change& change) { return change.column == index; });
+  if (known != changes_.end()) {
+    known->value = std::move(fitted);
+  } else {
+    changes_.push_back({index, std::move(fitted)});
   }
-  changes_.push_back({index, std::move(fitted)});
 }
 
 void Recordset::Update() {
-  RequireUpdatable();
+  RequireOpenForChanges();
   if (adding_) {
     WriteNewRow();
   } else if (!changes_.empty()) {
@@ -183,19 +199,16 @@ void Recordset::Update() {
   changes_.clear();
 }
 
-std::vector<NamedValue> Recordset::NamedChanges(const std::vector<Change>& changes) {
+std::vector<NamedValue> Recordset::NamedValues(const std::vector<Change>& changes) {
   const std::vector<ColumnInfo>& columns = Fields();
   std::vector<NamedValue> values;
   values.reserve(changes.size());
   for (const Change& change : changes) {
     const ColumnInfo& column = columns[change.column];
-    if (column.identity) {
+    if (column.identity || column.table.empty()) {
       throw RecordError("la colonna " + Quoted(column.name) +
-                        " è assegnata dal database e non si può scrivere");
-    }
-    if (column.table.empty()) {
-      throw RecordError("la colonna " + Quoted(column.name) +
-                        " è il risultato di un calcolo e non si può scrivere");
+                        (column.identity ? " è assegnata dal database e non si può scrivere"
+                                         : " è calcolata e non si può scrivere"));
     }
     values.emplace_back(column.name, change.value);
   }
@@ -205,29 +218,62 @@ std::vector<NamedValue> Recordset::NamedChanges(const std::vector<Change>& chang
 void Recordset::WriteNewRow() {
   const std::vector<ColumnInfo>& columns = Fields();
   const std::size_t key = KeyColumn();
-  const std::int64_t identity = connection_.Insert(columns[key].table, NamedChanges(changes_));
-  AddedRow added{rows_.size(), std::vector<bool>(columns.size(), false)};
+  const std::int64_t identity = connection_.Insert(columns[key].table, NamedValues(changes_));
   Row row(columns.size());
+  std::vector<bool> known(columns.size(), false);
   for (Change& change : changes_) {
     row[change.column] = std::move(change.value);
-    added.known[change.column] = true;
+    known[change.column] = true;
   }
   if (columns[key].identity) row[key] = identity;
-  added.known[key] = true;
+  known[key] = true;
+  current_ = rows_.size();
   rows_.push_back(std::move(row));
-  current_ = added.place;
-  added_.push_back(std::move(added));
+  known_.push_back(std::move(known));
 }
 
 void Recordset::WriteChanges() {
-  const std::size_t key = KeyColumn();
   Row& row = CurrentRow();
   std::vector<Change> differing;
   for (const Change& change : changes_) {
-    if (change.value != Get(Fields()[change.column].name, row)) differing.push_back(change);
+    if (change.value != row[change.column]) differing.push_back(change);
   }
+  if (differing.empty()) return;
+  const std::size_t key = KeyColumn();
+  const ColumnInfo& column = Fields()[key];
+  if (connection_.UpdateRow(column.table, NamedValues(differing), column.name, row[key]) != 1) {
+    throw RowGone(column, row[key]);
+  }
+  for (Change& change : differing) row[change.column] = std::move(change.value);
 }
 
 // --- the record object --------------------------------------------------------------------------
+
+Recordset& DbRecord::recordset() {
+  if (!recordset_) throw RecordError("nessuna interrogazione è aperta");
+  return *recordset_;
+}
+
+void DbRecord::Open(const Database& database, const SqlText& szSql, int mode) {
+  Close();
+  database.diagnostics.DebugszSql(szSql.text());
+  if (!szSql.HoldsTogether()) {
+    throw RecordError(
+        "interrogazione rifiutata: un valore letto dalla pagina contiene un apostrofo, che ne "
+        "cambierebbe il senso: " +
+        szSql.text());
+  }
+  recordset_.emplace(database.connection, database.connection.Prepare(szSql.text()),
+                     mode == kForChanges);
+}
+
+void DbRecord::Close() {
+  recordset_.reset();
+}
+
+void Execute(const Database& database, std::string_view szSql) {
+  database.diagnostics.DebugszSql(szSql);
+  database.connection.Execute(szSql);
+}
 
 }  // namespace ordex

@@ -31,13 +31,15 @@ class Recordset {
   std::size_t RecordCount();
   // True when there is no current row (any more).
   bool Eof();
+  // Changes that Update has not written yet are written first. Error: no current row.
   void MoveNext();
 
   // The columns in table order. Fetches nothing.
   const std::vector<ColumnInfo>& Fields();
 
   // Starts a new row; the fields set from here on fill it, and Update writes it.
-  // Error: where the recordset was not opened for changes.
+  // Changes that Update has not written yet are written first. Errors: where the recordset was not
+  // opened for changes, stems from several tables or holds no key.
   void AddNew();
   // Writes the new row, or those columns of the current row whose value was changed; with nothing
   // changed it does nothing. After a new row the current row is that row, its identity included.
@@ -59,15 +61,24 @@ class Recordset {
   void Fetch();
   std::size_t ColumnIndex(std::string_view name);
   Row& CurrentRow();
-  const ColumnInfo& KeyColumn();
-  const std::string& Table();
+  bool HasChanges() const { return adding_ || !changes_.empty(); }
+  void RequireOpenForChanges() const;
+  // The column that tells the one table's rows apart: its identity, else its primary key.
+  std::size_t KeyColumn();
+  std::vector<NamedValue> NamedValues(const std::vector<Change>& changes);
+  void WriteNewRow();
+  void WriteChanges();
+  void ReadAgain(std::size_t place);
 
   Connection& connection_;
   std::unique_ptr<Query> query_;
   bool updatable_;
   bool fetched_ = false;
   bool adding_ = false;
+  // The rows selected, once they are fetched, and behind them those added here.
   std::vector<Row> rows_;
+  // For each row added here, which of its columns are known without asking the engine.
+  std::vector<std::vector<bool>> known_;
   std::size_t current_ = 0;
   std::vector<Change> changes_;
 };

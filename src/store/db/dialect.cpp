@@ -51,14 +51,16 @@ class Tokenizer {
   Token Next() {
     start_ = at_;
     switch (ClassOf(sql_[at_])) {
-      case CharClass::kBlank: return Run(TokenKind::kBlank, [](CharClass next) {
-          return next == CharClass::kBlank;
-        });
-      case CharClass::kWord: return Run(TokenKind::kWord, [](CharClass next) {
+      case CharClass::kBlank:
+        return Run(TokenKind::kBlank, [](CharClass next) { return next == CharClass::kBlank; });
+      case CharClass::kWord:
+        return Run(TokenKind::kWord, [](CharClass next) {
           return next == CharClass::kWord || next == CharClass::kDigit;
         });
-      case CharClass::kDigit: return Number();
-      case CharClass::kSymbol: break;
+      case CharClass::kDigit:
+        return Number();
+      case CharClass::kSymbol:
+        break;
     }
     return Symbol();
   }
@@ -118,18 +120,24 @@ class Tokenizer {
 
   Token Symbol() {
     switch (sql_[at_]) {
-      case '\'': return Enclosed(TokenKind::kText, '\'');
-      case '"': return Enclosed(TokenKind::kQuoted, '"');
-      case '[': return Enclosed(TokenKind::kBracketed, ']');
-      case '#': return UpTo(TokenKind::kDate, "#", at_ + 1);
-      case ';': return Cut(TokenKind::kSemicolon, at_ + 1);
+      case '\'':
+        return Enclosed(TokenKind::kText, '\'');
+      case '"':
+        return Enclosed(TokenKind::kQuoted, '"');
+      case '[':
+        return Enclosed(TokenKind::kBracketed, ']');
+      case '#':
+        return UpTo(TokenKind::kDate, "#", at_ + 1);
+      case ';':
+        return Cut(TokenKind::kSemicolon, at_ + 1);
       case '-':
         if (CharAt(at_ + 1) != '-') break;
         return Cut(TokenKind::kComment, std::min(sql_.find('\n', at_), sql_.size()));
       case '/':
         if (CharAt(at_ + 1) != '*') break;
         return UpTo(TokenKind::kComment, "*/", at_ + 2);
-      default: break;
+      default:
+        break;
     }
     return Cut(TokenKind::kSymbol, at_ + 1);
   }
@@ -156,11 +164,11 @@ bool IsSymbol(const Token& token, char symbol) {
 // Words that begin a statement. SQL Server needs no semicolon in front of them, and none of them
 // can be a name unless it is quoted.
 constexpr std::array<std::string_view, 38> kStatementWords = {
-    "ALTER",  "BACKUP",     "BEGIN",  "BREAK",    "BULK",      "CHECKPOINT", "CLOSE",   "COMMIT",
-    "CREATE", "DBCC",       "DECLARE", "DELETE",  "DENY",      "DROP",       "DUMP",    "EXEC",
-    "EXECUTE", "GOTO",      "GRANT",  "IF",       "INSERT",    "INTO",       "KILL",    "MERGE",
-    "OPEN",   "PRINT",      "RAISERROR", "RESTORE", "RETURN",  "REVOKE",     "ROLLBACK", "SET",
-    "SHUTDOWN", "TRUNCATE", "UPDATE", "USE",      "WAITFOR",   "WHILE"};
+    "ALTER",    "BACKUP",   "BEGIN",     "BREAK",   "BULK",    "CHECKPOINT", "CLOSE",    "COMMIT",
+    "CREATE",   "DBCC",     "DECLARE",   "DELETE",  "DENY",    "DROP",       "DUMP",     "EXEC",
+    "EXECUTE",  "GOTO",     "GRANT",     "IF",      "INSERT",  "INTO",       "KILL",     "MERGE",
+    "OPEN",     "PRINT",    "RAISERROR", "RESTORE", "RETURN",  "REVOKE",     "ROLLBACK", "SET",
+    "SHUTDOWN", "TRUNCATE", "UPDATE",    "USE",     "WAITFOR", "WHILE"};
 
 constexpr std::array<bool, 256> MakeFirstLetters() {
   std::array<bool, 256> letters{};
@@ -254,8 +262,8 @@ class TableFinder {
   void TakeName(const Token& token) {
     static constexpr std::array<std::string_view, 4> kBeforeTable = {"FROM", "JOIN", "UPDATE",
                                                                      "INTO"};
-    static constexpr std::array<std::string_view, 8> kEnd = {
-        "WHERE", "ON", "GROUP", "ORDER", "HAVING", "UNION", "SELECT", "SET"};
+    static constexpr std::array<std::string_view, 8> kEnd = {"WHERE",  "ON",    "GROUP",  "ORDER",
+                                                             "HAVING", "UNION", "SELECT", "SET"};
     static constexpr std::array<std::string_view, 6> kJoins = {"INNER", "LEFT",  "RIGHT",
                                                                "FULL",  "CROSS", "OUTER"};
     if (IsOneOf(token, kBeforeTable)) {
@@ -312,15 +320,20 @@ class SqliteRewriter {
   std::size_t Take(std::size_t i) {
     const Token& token = tokens_[i];
     switch (token.kind) {
-      case TokenKind::kWord: return TakeWord(i);
-      case TokenKind::kText: TakeText(i); return i;
+      case TokenKind::kWord:
+        return TakeWord(i);
+      case TokenKind::kText:
+        TakeText(i);
+        return i;
       case TokenKind::kQuoted:
         AppendLiteral(out_, ReplaceAll(Inside(token.text), "\"\"", "\""));
         return i;
       case TokenKind::kDate:
         AppendDate(ParseMonthFirst(Inside(token.text)), token.text, "MM/GG/AAAA");
         return i;
-      default: out_.append(token.text); return i;
+      default:
+        out_.append(token.text);
+        return i;
     }
   }
 
@@ -330,8 +343,8 @@ class SqliteRewriter {
       const std::size_t last = TakeConversion(i);
       if (last != kNone) return last;
     }
-    const bool is_ucase = EqualAscii(word, "UCASE") && Next(i) != kNone &&
-                          IsSymbol(tokens_[Next(i)], '(');
+    const bool is_ucase =
+        EqualAscii(word, "UCASE") && Next(i) != kNone && IsSymbol(tokens_[Next(i)], '(');
     out_.append(is_ucase ? std::string_view("UPPER") : word);
     return i;
   }
@@ -347,19 +360,17 @@ class SqliteRewriter {
       return [wanted](const Token& token) { return IsSymbol(token, wanted); };
     };
     std::string_view date;
-    const bool matches =
-        next_is(symbol('(')) &&
-        next_is([](const Token& token) {
-          return IsWord(token, "SMALLDATETIME") || IsWord(token, "DATETIME");
-        }) &&
-        next_is(symbol(',')) && next_is([&](const Token& token) {
-          date = token.text;
-          return token.kind == TokenKind::kText;
-        }) &&
-        next_is(symbol(',')) && next_is([](const Token& token) {
-          return token.kind == TokenKind::kNumber && token.text == "105";
-        }) &&
-        next_is(symbol(')'));
+    const bool matches = next_is(symbol('(')) && next_is([](const Token& token) {
+                           return IsWord(token, "SMALLDATETIME") || IsWord(token, "DATETIME");
+                         }) &&
+                         next_is(symbol(',')) && next_is([&](const Token& token) {
+                           date = token.text;
+                           return token.kind == TokenKind::kText;
+                         }) &&
+                         next_is(symbol(',')) && next_is([](const Token& token) {
+                           return token.kind == TokenKind::kNumber && token.text == "105";
+                         }) &&
+                         next_is(symbol(')'));
     if (!matches) return kNone;
     AppendDate(ParseDayFirst(Inside(date)), date, "GG/MM/AAAA");
     return at;

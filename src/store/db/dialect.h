@@ -11,14 +11,14 @@
 namespace ordex {
 
 enum class TokenKind {
-  kBlank,       // white space
-  kComment,     // "-- …" to the end of the line, or "/* … */"
-  kWord,        // an identifier or keyword
-  kBracketed,   // an identifier between square brackets
+  kBlank,      // white space
+  kComment,    // "-- …" to the end of the line, or "/* … */"
+  kWord,       // an identifier or keyword
+  kBracketed,  // an identifier between square brackets
   kNumber,
-  kText,        // a literal between apostrophes, doubled apostrophes inside
-  kQuoted,      // a text between double quotes, doubled double quotes inside
-  kDate,        // a date between number signs
+  kText,    // a literal between apostrophes, doubled apostrophes inside
+  kQuoted,  // a text between double quotes, doubled double quotes inside
+  kDate,    // a date between number signs
   kSemicolon,
   kSymbol,      // any other single character
   kUnfinished,  // a literal or comment that the text ends in

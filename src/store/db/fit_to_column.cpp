@@ -58,10 +58,14 @@ constexpr Range RangeOf() {
 
 Range RangeOf(const ColumnInfo& column) {
   switch (column.size) {
-    case 1: return RangeOf<std::uint8_t>();  // the engines' one-byte number has no sign
-    case 2: return RangeOf<std::int16_t>();
-    case 4: return RangeOf<std::int32_t>();
-    default: return RangeOf<std::int64_t>();
+    case 1:
+      return RangeOf<std::uint8_t>();  // the engines' one-byte number has no sign
+    case 2:
+      return RangeOf<std::int16_t>();
+    case 4:
+      return RangeOf<std::int32_t>();
+    default:
+      return RangeOf<std::int64_t>();
   }
 }
 
@@ -172,11 +176,16 @@ Value FitDate(const Value& value, const ColumnInfo& column) {
 Value FitToColumn(const Value& value, const ColumnInfo& column) {
   if (IsNull(value)) return value;
   switch (column.type) {
-    case ColumnType::kText: return FitText(value, column);
-    case ColumnType::kInteger: return FitInteger(value, column);
-    case ColumnType::kReal: return FitReal(value, column);
-    case ColumnType::kBit: return FitBit(value, column);
-    case ColumnType::kDate: return FitDate(value, column);
+    case ColumnType::kText:
+      return FitText(value, column);
+    case ColumnType::kInteger:
+      return FitInteger(value, column);
+    case ColumnType::kReal:
+      return FitReal(value, column);
+    case ColumnType::kBit:
+      return FitBit(value, column);
+    case ColumnType::kDate:
+      return FitDate(value, column);
   }
   return value;
 }

@@ -38,11 +38,6 @@ SqlText& SqlText::Append(std::string_view piece) {
   return *this;
 }
 
-SqlText& SqlText::Append(std::int64_t number) {
-  text_.append(std::to_string(number));
-  return *this;
-}
-
 SqlText& SqlText::AppendUndoubled(std::string_view value) {
   if (Contains(value, "'")) broken_ = true;
   text_.append("'").append(value).append("'");

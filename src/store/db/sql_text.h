@@ -1,11 +1,10 @@
 // SQL texts, as the routines build them by joining pieces.
 #pragma once
 
-#include <cstdint>
+#include <concepts>
 #include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 namespace ordex {
 
@@ -23,11 +22,17 @@ std::string FormattaDataSql(std::string_view date);
 class SqlText {
  public:
   SqlText() = default;
-  SqlText(std::string text) : text_(std::move(text)) {}              // NOLINT: a text is a SQL text
-  SqlText(const char* text) : text_(text) {}                         // NOLINT
+  SqlText(std::string text) : text_(std::move(text)) {}  // NOLINT: a text is a SQL text
+  SqlText(const char* text) : text_(text) {}             // NOLINT
 
   SqlText& Append(std::string_view piece);
-  SqlText& Append(const SqlText& piece);
+  // With what `piece` remembers. Takes nothing that would first have to become a SqlText: a plain
+  // text could then mean either function.
+  SqlText& Append(const std::same_as<SqlText> auto& piece) {
+    text_.append(piece.text_);
+    broken_ = broken_ || piece.broken_;
+    return *this;
+  }
   // An apostrophe, `value` as it stands, an apostrophe.
   SqlText& AppendUndoubled(std::string_view value);
 

@@ -94,9 +94,8 @@ const std::vector<ColumnInfo>& SqliteCatalog::Columns(const std::string& table) 
     const DeclaredType type = ParseDeclaredType(declared.c_str()).value_or(DeclaredType{});
     const bool is_key = sqlite3_column_int(statement.get(), 2) != 0;
     if (is_key) ++keys;
-    columns.push_back(
-        {ColumnText(statement, 0), type.type, type.size, table, is_key && IsAssigned(declared),
-         is_key});
+    columns.push_back({ColumnText(statement, 0), type.type, type.size, table,
+                       is_key && IsAssigned(declared), is_key});
   }
   if (columns.empty()) return kNoColumns;  // not kept: the table may yet be made
   if (keys > 1) {

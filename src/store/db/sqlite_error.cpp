@@ -15,11 +15,13 @@ std::string WithEngineWords(std::string_view text, std::string_view words) {
 std::string SqliteErrorText(int code, std::string_view engineWords) {
   switch (code & kPlainCode) {
     case SQLITE_BUSY:
-    case SQLITE_LOCKED: return "il database è bloccato da un altro programma; riprovare tra poco";
+    case SQLITE_LOCKED:
+      return "il database è bloccato da un altro programma; riprovare tra poco";
     case SQLITE_READONLY:
       return "il database è di sola lettura; controllare i diritti di scrittura sul file e sulla "
              "sua cartella";
-    case SQLITE_FULL: return "il disco è pieno; liberare spazio e riprovare";
+    case SQLITE_FULL:
+      return "il disco è pieno; liberare spazio e riprovare";
     case SQLITE_NOTADB:
       return "il file non è un database; controllare il nome del file nelle impostazioni";
     case SQLITE_CORRUPT:
@@ -34,8 +36,10 @@ std::string SqliteErrorText(int code, std::string_view engineWords) {
     case SQLITE_IOERR:
       return "errore di lettura o di scrittura del file del database; controllare il disco o la "
              "rete e riprovare";
-    case SQLITE_NOMEM: return "memoria insufficiente; chiudere altri programmi e riprovare";
-    default: return WithEngineWords("il database ha rifiutato l'istruzione", engineWords);
+    case SQLITE_NOMEM:
+      return "memoria insufficiente; chiudere altri programmi e riprovare";
+    default:
+      return WithEngineWords("il database ha rifiutato l'istruzione", engineWords);
   }
 }
 
@@ -44,8 +48,7 @@ RunTimeError SqliteError(sqlite3* database, int code) {
 }
 
 RunTimeError SqliteFileError(const std::filesystem::path& file, std::string_view problem) {
-  return MakeError(ErrorNumber::kDatabase,
-                   "\"" + file.string() + "\": " + std::string(problem));
+  return MakeError(ErrorNumber::kDatabase, "\"" + file.string() + "\": " + std::string(problem));
 }
 
 }  // namespace ordex

@@ -20,10 +20,14 @@ std::string TextAt(sqlite3_stmt* statement, int column) {
 // The value as it is stored, whatever the column was declared as.
 Value StoredValue(sqlite3_stmt* statement, int column) {
   switch (sqlite3_column_type(statement, column)) {
-    case SQLITE_NULL: return Null{};
-    case SQLITE_INTEGER: return std::int64_t{sqlite3_column_int64(statement, column)};
-    case SQLITE_FLOAT: return sqlite3_column_double(statement, column);
-    default: return TextAt(statement, column);
+    case SQLITE_NULL:
+      return Null{};
+    case SQLITE_INTEGER:
+      return std::int64_t{sqlite3_column_int64(statement, column)};
+    case SQLITE_FLOAT:
+      return sqlite3_column_double(statement, column);
+    default:
+      return TextAt(statement, column);
   }
 }
 
@@ -56,11 +60,16 @@ std::optional<Value> Typed(Value stored, ColumnType type) {
 
 std::string_view Wanted(ColumnType type) {
   switch (type) {
-    case ColumnType::kText: return "un testo";
-    case ColumnType::kInteger: return "un numero intero";
-    case ColumnType::kReal: return "un numero";
-    case ColumnType::kBit: return "un bit (0 o 1)";
-    case ColumnType::kDate: return "una data (AAAA-MM-GG HH:MM:SS)";
+    case ColumnType::kText:
+      return "un testo";
+    case ColumnType::kInteger:
+      return "un numero intero";
+    case ColumnType::kReal:
+      return "un numero";
+    case ColumnType::kBit:
+      return "un bit (0 o 1)";
+    case ColumnType::kDate:
+      return "una data (AAAA-MM-GG HH:MM:SS)";
   }
   return "un valore";
 }

@@ -52,7 +52,7 @@ std::string ToText(const Value& value) {
   return std::visit(TextOf{}, value);
 }
 
-std::int32_t ToInt32(const Value& value) {
+std::int32_t AsInt32(const Value& value) {
   if (IsNull(value)) throw MakeError(ErrorNumber::kInvalidNull);
   if (const auto* number = std::get_if<std::int64_t>(&value)) return Narrow(*number);
   if (const auto* number = std::get_if<double>(&value)) return Narrow(*number);

@@ -25,7 +25,7 @@ inline bool IsNull(const Value& value) {
 // Null as an empty text.
 std::string ToText(const Value& value);
 // Errors: invalid use of Null; type mismatch where the value is no whole number; overflow.
-std::int32_t ToInt32(const Value& value);
+std::int32_t AsInt32(const Value& value);
 // A bit, or a number other than 0. Null counts as false. Error: type mismatch.
 bool ToBool(const Value& value);
 

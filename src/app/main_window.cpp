@@ -1,0 +1,181 @@
+#include "app/main_window.h"
+
+#include <utility>
+
+#include "app/review_lists.h"
+#include "app/window_commands.h"
+#include "base/number.h"
+#include "cases/case_choice_rules.h"
+#include "cases/hearings.h"
+#include "store/case_record.h"
+
+namespace ordex {
+namespace {
+
+// Counts a handler as on the way for as long as it lives.
+class Running {
+ public:
+  explicit Running(int& count) : count_(count) { ++count_; }
+  ~Running() { --count_; }
+  Running(const Running&) = delete;
+  Running& operator=(const Running&) = delete;
+
+ private:
+  int& count_;
+};
+
+}  // namespace
+
+MainWindow::MainWindow(std::filesystem::path programFolder, const World& world)
+    : programFolder_(std::move(programFolder)),
+      world_(world),
+      frmInfoAnagrafica_(window_.personCard, window_.commands.bCollegareAna, world.dialogs,
+                         world.desktop, world.boxes) {}
+
+// An error that nothing traps is reported as the platform would, and ends the program; the window
+// is not unloaded then.
+void MainWindow::Run(const std::function<void()>& handler) {
+  if (ended_) return;
+  {
+    const Running running(running_);
+    try {
+      handler();
+    } catch (const RunTimeError& error) {
+      world_.diagnostics.Failed(error, std::nullopt);
+      ended_ = EndReason::kError;
+      world_.boxes.Show({ReportText(error), "Ordex", BoxIcon::kStop, BoxButtons::kOk});
+    }
+  }
+  if (running_ == 0) RunPendingPokes();
+}
+
+void MainWindow::RunPendingPokes() {
+  while (pendingPokes_ > 0 && !ended_) {
+    --pendingPokes_;
+    Run([this] { lblLinkDDE_Change(); });
+  }
+}
+
+void MainWindow::End(EndReason reason) {
+  ended_ = reason;
+}
+
+void MainWindow::Start(std::string_view handle) {
+  Run([this, handle] {
+    Form_Initialize(handle);
+    Form_Load();
+  });
+}
+
+void MainWindow::Poke() {
+  ++pendingPokes_;
+  if (running_ == 0) RunPendingPokes();
+}
+
+void MainWindow::Close() {
+  Run([this] {
+    Form_Unload();
+    End(EndReason::kClosed);
+  });
+}
+
+void MainWindow::PressAzione() {
+  Run([this] { cmdAzione_Click(); });
+}
+
+void MainWindow::PressAnnulla() {
+  Run([this] { cmdAnnulla_Click(window_); });
+}
+
+void MainWindow::PressPulisci() {
+  Run([this] { cmdPulisci_Click(window_, ctlTestata1_); });
+}
+
+void MainWindow::PressNo() {
+  Close();
+}
+
+void MainWindow::ToggleDettagli() {
+  Run([this] {
+    bool& pressed = window_.commands.chkDettagli.pressed;
+    pressed = !pressed;
+    chkDettagli_Click(window_, world_.desktop.Screen());
+  });
+}
+
+void MainWindow::SelectParty(std::size_t box, int place) {
+  Run([&] { ordex::SelectParty(window_.choice, box, place); });
+}
+
+void MainWindow::SelectUtenteCont(int place) {
+  Run([&] { ordex::SelectUtenteCont(window_.choice, place); });
+}
+
+void MainWindow::FindCases(std::string_view text) {
+  Run([&] { ctlTestata1_.Search(text); });
+}
+
+bool MainWindow::ChooseCase(std::int32_t idPra) {
+  bool found = false;
+  Run([&] {
+    found = ctlTestata1_.LoadCase(idPra);
+    if (!found) return;
+    ctlTestata1_Event9(window_.page.pageAtOpening, window_.choice.ctlTestata1, window_.status,
+                       window_.commands.cmdAzione);
+  });
+  return found;
+}
+
+bool MainWindow::ClickPerson(std::int32_t ID_Ana) {
+  bool found = false;
+  Run([&] {
+    world_.desktop.SetMousePointer(MousePointer::kHourglass);
+    DbRecord person;
+    person.Open(*database_,
+                "SELECT * FROM Anagrafica WHERE ID_Ana = " + std::to_string(ID_Ana), kForReading);
+    found = !person.recordset().Eof();
+    if (found) {
+      frmInfoAnagrafica_.ValorizzaInfo(person, kCardOnly);
+      frmInfoAnagrafica_.ShowModal();
+    }
+    world_.desktop.SetMousePointer(MousePointer::kDefault);
+  });
+  return found;
+}
+
+void MainWindow::ClickColumn(int column) {
+  if (!window_.lstImport.visible) return;
+  Run([&] { OrdinaColonna(window_.lstImport, column); });
+}
+
+void MainWindow::ClickRow(std::size_t place) {
+  Run([&] {
+    if (window_.lstImport.visible) {
+      lstImport_ItemClick(window_.lstImport, place);
+    } else {
+      lstAgendaAvv_ItemClick(window_.lstAgendaAvv, place);
+    }
+  });
+}
+
+void MainWindow::cmdAzione_Click() {
+  HearingWriter agenda(*database_, window_.page, world_.clock);
+  const CaseRecordTask record = {*database_,
+                                 window_.page,
+                                 window_.lstImport,
+                                 window_.choice,
+                                 window_.commands.bCollegareAna,
+                                 frmInfoAnagrafica_,
+                                 world_.boxes,
+                                 world_.clock,
+                                 agenda};
+  const ActionOutcome outcome = ordex::cmdAzione_Click(
+      {*database_, window_.page, window_.choice, window_.commands, ctlTestata1_, world_.boxes,
+       world_.desktop,
+       [&record](std::int32_t idPra) { return RegistraPratica(record, idPra); }});
+  if (outcome == ActionOutcome::kGoOn) return;
+  Form_Unload();
+  End(outcome == ActionOutcome::kDone ? EndReason::kDone : EndReason::kFailed);
+}
+
+}  // namespace ordex
