@@ -1,5 +1,6 @@
 #include "base/date.h"
 
+#include <array>
 #include <chrono>
 #include <cstdio>
 
@@ -118,9 +119,9 @@ std::optional<DateTime> Checked(DateTime date, int month, int day) {
 
 template <class... Numbers>
 std::string Printed(const char* format, Numbers... numbers) {
-  char buffer[64];
-  const int length = std::snprintf(buffer, sizeof buffer, format, numbers...);
-  return {buffer, static_cast<std::size_t>(length)};
+  std::array<char, 64> buffer{};
+  const int length = std::snprintf(buffer.data(), buffer.size(), format, numbers...);
+  return {buffer.data(), static_cast<std::size_t>(length)};
 }
 
 }  // namespace

@@ -11,7 +11,7 @@
 #include "store/db/sqlite_connection.h"
 #include "support/db_temporary_folder.h"
 
-namespace ordex::testing {
+namespace ordex {
 
 class DbDiagnostics final : public Diagnostics {
  public:
@@ -51,4 +51,4 @@ class DbOffice {
   DbDiagnostics diagnostics_;
 };
 
-}  // namespace ordex::testing
+}  // namespace ordex

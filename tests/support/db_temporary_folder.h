@@ -8,7 +8,7 @@
 #include <string>
 #include <system_error>
 
-namespace ordex::testing {
+namespace ordex {
 
 class DbTemporaryFolder {
  public:
@@ -39,4 +39,4 @@ class DbTemporaryFolder {
   std::filesystem::path path_;
 };
 
-}  // namespace ordex::testing
+}  // namespace ordex

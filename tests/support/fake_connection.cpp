@@ -5,7 +5,7 @@
 
 #include "base/text.h"
 
-namespace ordex::testing {
+namespace ordex {
 namespace {
 
 std::string Shape(const std::string& table, std::span<const NamedValue> values) {
@@ -117,4 +117,4 @@ std::string FakeConnection::Limited(const std::string& select, std::size_t count
   return real_.Limited(select, count);
 }
 
-}  // namespace ordex::testing
+}  // namespace ordex

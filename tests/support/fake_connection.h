@@ -11,7 +11,7 @@
 #include "base/error.h"
 #include "store/db/connection.h"
 
-namespace ordex::testing {
+namespace ordex {
 
 // What a failing statement does. With `endsTransaction` the engine has also rolled the open
 // transaction back by itself, as on a deadlock or a full disk.
@@ -69,4 +69,4 @@ class FakeConnection final : public Connection {
   std::vector<Plan> plans_;
 };
 
-}  // namespace ordex::testing
+}  // namespace ordex

@@ -75,11 +75,16 @@ std::string UnchangingUri(const fs::path& file) {
   return uri + "?immutable=1";
 }
 
-bool LacksWorkingFiles(int code, const fs::path& file) {
+// True where the engine failed for want of rights and neither of the logs is there that would hold
+// a part of the data.
+bool MayBeReadAsItStands(int code, const fs::path& file) {
   const int plain = code & 0xFF;
   if (plain != SQLITE_READONLY && plain != SQLITE_CANTOPEN) return false;
   std::error_code failure;
-  return !fs::exists(fs::path(file).concat("-wal"), failure);
+  const fs::path real = fs::canonical(file, failure);
+  if (failure) return false;
+  return !fs::exists(fs::path(real).concat("-wal"), failure) && !failure &&
+         !fs::exists(fs::path(real).concat("-journal"), failure) && !failure;
 }
 
 }  // namespace
@@ -92,8 +97,8 @@ SqliteHandle OpenSqliteFile(const fs::path& file, int busyMilliseconds) {
   RequireFile(file);
   Opened opened = Open(SqliteFileName(file), SQLITE_OPEN_READWRITE, busyMilliseconds);
   // In a folder that we may not write to, the engine cannot make the working files that even a
-  // reader needs. Nobody is writing just now (there is no log), so the file holds everything.
-  if (LacksWorkingFiles(opened.code, file)) {
+  // reader needs.
+  if (MayBeReadAsItStands(opened.code, file)) {
     Opened unchanging =
         Open(UnchangingUri(file), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, busyMilliseconds);
     if (unchanging.code == SQLITE_OK) return std::move(unchanging.database);

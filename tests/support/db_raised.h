@@ -7,19 +7,19 @@
 
 #include "base/error.h"
 
-namespace ordex::testing {
+namespace ordex {
 
-struct RaisedError {
+struct DbRaised {
   int number = 0;  // 0: nothing was raised
   std::string description;
-  bool operator==(const RaisedError&) const = default;
+  bool operator==(const DbRaised&) const = default;
 };
 
-inline std::ostream& operator<<(std::ostream& out, const RaisedError& error) {
+inline std::ostream& operator<<(std::ostream& out, const DbRaised& error) {
   return out << error.number << " " << error.description;
 }
 
-inline RaisedError ErrorOf(const std::function<void()>& body) {
+inline DbRaised DbRaisedBy(const std::function<void()>& body) {
   try {
     body();
   } catch (const RunTimeError& error) {
@@ -31,8 +31,8 @@ inline RaisedError ErrorOf(const std::function<void()>& body) {
 inline constexpr int kDatabaseNumber = -2147467259;
 
 // The database layer's error with that text behind the standard wording.
-inline RaisedError DatabaseError(const std::string& detail) {
+inline DbRaised DbError(const std::string& detail) {
   return {kDatabaseNumber, "Errore del database: " + detail};
 }
 
-}  // namespace ordex::testing
+}  // namespace ordex

@@ -1,0 +1,151 @@
+// ordex-console: the main window on a terminal.
+#include <CLI/CLI.hpp>
+#include <fstream>
+#include <iostream>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "app/ini_settings.h"
+#include "base/date.h"
+#include "base/text.h"
+#include "base/text_file.h"
+#include "store/db/sqlite_connection.h"
+#include "ui/console/clocks.h"
+#include "ui/console/command_source.h"
+#include "ui/console/json_events.h"
+#include "ui/console/program_folder.h"
+#include "ui/console/session.h"
+#include "ui/console/terminal.h"
+#include "ui/console/text_events.h"
+
+namespace ordex::console {
+namespace {
+
+constexpr int kWrongCall = 2;
+
+struct Options {
+  std::string dir;
+  std::string settings;
+  std::string clipboard;
+  std::string now;
+  std::string script;
+  bool json = false;
+  bool sql = false;
+  std::string newDatabase;
+  bool sample = false;
+};
+
+// A call that cannot be carried out, said in Italian.
+struct WrongCall {
+  std::string text;
+};
+
+int ExitCode(const SessionEnd& end) {
+  if (end.scriptError) return kWrongCall;
+  switch (end.reason) {
+    case EndReason::kClosed:
+    case EndReason::kDone: return 0;
+    case EndReason::kRefused: return 3;
+    case EndReason::kError: return 4;
+    case EndReason::kFailed: return 5;
+  }
+  return 0;
+}
+
+std::unique_ptr<Clock> MakeClock(const Options& options) {
+  if (options.now.empty()) return std::make_unique<SystemClock>();
+  const auto now = ParseDayFirst(options.now);
+  if (!now) throw WrongCall{"--now vuole una data nella forma \"GG/MM/AAAA HH:MM:SS\""};
+  return std::make_unique<FixedClock>(*now);
+}
+
+std::unique_ptr<Events> MakeEvents(const Options& options) {
+  if (options.json) return std::make_unique<JsonEvents>(std::cout);
+  return std::make_unique<TextEvents>(std::cout);
+}
+
+void PutOnClipboard(const Options& options, SessionClipboard& clipboard) {
+  if (options.clipboard.empty()) return;
+  try {
+    clipboard.SetText(ReadTextFile(options.clipboard));
+  } catch (const RunTimeError& error) {
+    throw WrongCall{"--clipboard: " + error.description()};
+  }
+}
+
+void Prompt() {
+  std::cout << "ordex> " << std::flush;
+}
+
+int RunSession(const Options& options, const char* executable) {
+  const auto clock = MakeClock(options);
+  SessionClipboard clipboard;
+  PutOnClipboard(options, clipboard);
+  std::ifstream script;
+  if (!options.script.empty()) {
+    script.open(options.script);
+    if (!script) throw WrongCall{"--script: impossibile leggere \"" + options.script + "\""};
+  }
+  const bool person = options.script.empty() && !options.json && PersonAtTerminal();
+  CommandSource commands(options.script.empty() ? std::cin : static_cast<std::istream&>(script),
+                         person ? Prompt : std::function<void()>{});
+  IniSettings settings(options.settings.empty() ? UserSettingsFile()
+                                                : std::filesystem::path(options.settings));
+  const auto events = MakeEvents(options);
+  Session session({ProgramFolder(options.dir, executable), settings, *clock, clipboard,
+                   options.sql},
+                  commands, *events);
+  return ExitCode(session.Run());
+}
+
+int CreateDatabase(const Options& options) {
+  try {
+    CreateSqliteDatabase(options.newDatabase, options.sample);
+  } catch (const RunTimeError& error) {
+    throw WrongCall{error.description()};
+  }
+  return 0;
+}
+
+void Declare(CLI::App& app, Options& options) {
+  app.set_help_flag("-h,--help", "mostra questo aiuto");
+  app.add_option("--dir", options.dir, "cartella del programma (file di mappatura)");
+  app.add_option("--settings", options.settings, "file delle impostazioni dell'utente");
+  app.add_option("--clipboard", options.clipboard, "testo che sta negli appunti all'avvio");
+  app.add_option("--now", options.now, "orologio fermo, \"GG/MM/AAAA HH:MM:SS\"");
+  app.add_option("--script", options.script, "comandi, uno per riga (altrimenti da tastiera)");
+  app.add_flag("--json", options.json, "un evento JSON per riga");
+  app.add_flag("--sql", options.sql, "anche i testi SQL");
+}
+
+int Main(int argc, char** argv) {
+  Options options;
+  CLI::App app("Ordex: importa in Praxion le pagine di OrdexWeb", "ordex-console");
+  Declare(app, options);
+  CLI::App* db = app.add_subcommand("db", "il database incorporato");
+  db->require_subcommand(1);
+  CLI::App* create = db->add_subcommand("create", "crea un nuovo database vuoto");
+  create->add_option("FILE", options.newDatabase, "il file da creare")->required();
+  create->add_flag("--sample", options.sample, "con le pratiche e le persone di esempio");
+  try {
+    app.parse(argc, argv);
+    return create->parsed() ? CreateDatabase(options) : RunSession(options, argv[0]);
+  } catch (const CLI::CallForHelp&) {
+    std::cout << app.help();
+    return 0;
+  } catch (const CLI::ParseError& error) {
+    std::cerr << "Chiamata non valida (" << error.what()
+              << "). \"ordex-console --help\" mostra come si usa.\n";
+  } catch (const WrongCall& wrong) {
+    std::cerr << wrong.text << "\n";
+  }
+  return kWrongCall;
+}
+
+}  // namespace
+}  // namespace ordex::console
+
+int main(int argc, char** argv) {
+  return ordex::console::Main(argc, argv);
+}

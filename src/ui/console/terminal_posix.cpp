@@ -1,0 +1,19 @@
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include "ui/console/terminal.h"
+
+namespace ordex::console {
+
+bool PersonAtTerminal() {
+  return isatty(STDIN_FILENO) == 1;
+}
+
+std::size_t TerminalWidth() {
+  constexpr std::size_t kUsualWidth = 100;
+  winsize size{};
+  if (ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0) return kUsualWidth;
+  return size.ws_col;
+}
+
+}  // namespace ordex::console
