@@ -18,7 +18,8 @@ struct DateTime {
   int minute = 0;
   int second = 0;
 
-  auto operator<=>(const DateTime&) const = default;
+  // Year first, down to the second.
+  auto operator<=>(const DateTime&) const = default;  // NOLINT(modernize-use-nullptr)
 };
 
 // Day first: "DD/MM/YYYY" or "DD-MM-YYYY" (one or two digits for day and month, four for the

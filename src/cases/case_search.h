@@ -13,8 +13,9 @@ namespace ordex {
 inline constexpr std::size_t kMostHits = 50;
 
 // The first kMostHits cases, letter case ignored, best first: those whose register number is or
-// begins with `text`, then those with a party whose name begins with it, then those that hold it in
-// a party's name or in the subject. A case's title finds the case. An empty text finds nothing.
+// begins with `text`; where there is none, those with a party whose name begins with it, then those
+// that hold it in a party's name or in the subject. A case's title finds the case. An empty text
+// finds nothing.
 // Errors: of the database.
 std::vector<FoundCase> SearchCases(Connection& connection, std::string_view text);
 

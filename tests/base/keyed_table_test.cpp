@@ -115,6 +115,15 @@ TEST(KeyedTable, KeysThatDifferInOneCharacterAreDifferentEntriesWhateverTheirLen
   }
 }
 
+TEST(KeyedTable, TwoKeysThatWereMadeToHaveTheSameHashAreToldApart) {
+  KeyedTable table;
+  table.Add("x", "data di 5wib5rr9");
+  EXPECT_FALSE(table.Exists("dmtvvmbkx5-4x4g6"));
+  table.Add("y", "dmtvvmbkx5-4x4g6");
+  EXPECT_EQ(table.Item("Data di 5wib5rr9"), "x");
+  EXPECT_EQ(table.Item("DMTVVMBKX5-4X4G6"), "y");
+}
+
 TEST(KeyedTable, AKeyIsNotFoundByItsBeginningOrByMoreThanItself) {
   KeyedTable table;
   table.Add("x", "Data di notifica");

@@ -23,7 +23,9 @@ class ScratchFolder {
     std::filesystem::remove_all(path_, ignored);
   }
   ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder(ScratchFolder&&) = delete;
   ScratchFolder& operator=(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(ScratchFolder&&) = delete;
 
   const std::filesystem::path& path() const { return path_; }
   std::filesystem::path operator/(const std::filesystem::path& name) const { return path_ / name; }

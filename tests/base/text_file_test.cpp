@@ -149,14 +149,15 @@ TEST(ReplaceTextFile, AReaderSeesTheOldTextOrTheNewAndNeverAHalf) {
 
 TEST(ReplaceTextFile, TwoWritersAtTheSameTimeLeaveTheTextOfOneOfThem) {
   const ScratchFolder folder;
-  const std::string texts[] = {std::string(200'000, 'a'), std::string(150'000, 'b')};
+  const std::string one(200'000, 'a');
+  const std::string other(150'000, 'b');
   for (int round = 0; round < 20; ++round) {
-    std::thread first([&] { ReplaceTextFile(folder / "x.txt", texts[0]); });
-    std::thread second([&] { ReplaceTextFile(folder / "x.txt", texts[1]); });
+    std::thread first([&] { ReplaceTextFile(folder / "x.txt", one); });
+    std::thread second([&] { ReplaceTextFile(folder / "x.txt", other); });
     first.join();
     second.join();
     const std::string seen = folder.Read("x.txt");
-    ASSERT_TRUE(seen == texts[0] || seen == texts[1]);
+    ASSERT_TRUE(seen == one || seen == other);
     ASSERT_EQ(folder.FileCount(), 1U);
   }
 }

@@ -73,8 +73,7 @@ TEST_P(ConnectionContract, TheColumnsOfATableComeInItsOrder) {
   const std::vector<ColumnInfo>& columns = connection().TableColumns("EventiPraOrdex");
   std::string names;
   for (const ColumnInfo& column : columns) names += column.name + " ";
-  EXPECT_EQ(names,
-            "ID_Evento ID_PraRel Progressivo Data Descrizione NrPagina DataAcquisizione ");
+  EXPECT_EQ(names, "ID_Evento ID_PraRel Progressivo Data Descrizione NrPagina DataAcquisizione ");
 }
 
 TEST_P(ConnectionContract, AnUnknownTableHasNoColumns) {
@@ -149,7 +148,7 @@ TEST_P(ConnectionContract, AnErrorOfTheEngineArisesWhenTheQueryIsPrepared) {
 }
 
 TEST_P(ConnectionContract, ANullCharacterInATextIsRefused) {
-  const std::string sql("SELECT 'a\0b' FROM Pratica", 26);
+  const std::string sql("SELECT 'a\0b' FROM Pratica", 25);
   EXPECT_EQ(DbRaisedBy([&] { connection().Prepare(sql); }).number, kDatabaseNumber);
 }
 
@@ -176,18 +175,17 @@ TEST_P(ConnectionContract, TwoStatementsAreNotRun) {
 TEST_P(ConnectionContract, EveryKindOfValueComesBackAsItWasWritten) {
   const DateTime date{2024, 3, 5, 9, 30, 15};
   const std::int64_t id = connection().Insert(
-      "Anagrafica",
-      std::vector<NamedValue>{{"Cognome", Text("D'Ștefan \"x\" ; --")},
-                              {"Nome", Text("")},
-                              {"IsFisicaGiuridica", true},
-                              {"Cambio", 1936.27},
-                              {"StatoCivile", Whole(-32768)},
-                              {"DataNascita", date},
-                              {"Sesso", Null{}}});
-  const std::vector<Row> rows =
-      Rows("SELECT Cognome, Nome, IsFisicaGiuridica, IsSostitutoImposta, Cambio, StatoCivile, "
-           "DataNascita, Sesso FROM Anagrafica WHERE ID_Ana = " +
-           std::to_string(id));
+      "Anagrafica", std::vector<NamedValue>{{"Cognome", Text("D'Ștefan \"x\" ; --")},
+                                            {"Nome", Text("")},
+                                            {"IsFisicaGiuridica", true},
+                                            {"Cambio", 1936.27},
+                                            {"StatoCivile", Whole(-32768)},
+                                            {"DataNascita", date},
+                                            {"Sesso", Null{}}});
+  const std::vector<Row> rows = Rows(
+      "SELECT Cognome, Nome, IsFisicaGiuridica, IsSostitutoImposta, Cambio, StatoCivile, "
+      "DataNascita, Sesso FROM Anagrafica WHERE ID_Ana = " +
+      std::to_string(id));
   EXPECT_EQ(rows, (std::vector<Row>{{Text("D'Ștefan \"x\" ; --"), Text(""), true, false, 1936.27,
                                      Whole(-32768), date, Null{}}}));
 }
@@ -196,16 +194,16 @@ TEST_P(ConnectionContract, AnInsertGivesTheIdentityThatTheEngineAssigned) {
   const std::int64_t first = AddEvent(1, 1);
   const std::int64_t second = AddEvent(1, 2);
   EXPECT_NE(first, second);
-  EXPECT_EQ(One("SELECT Progressivo FROM EventiPraOrdex WHERE ID_Evento = " +
-                std::to_string(second)),
-            Whole(2));
+  EXPECT_EQ(
+      One("SELECT Progressivo FROM EventiPraOrdex WHERE ID_Evento = " + std::to_string(second)),
+      Whole(2));
 }
 
 TEST_P(ConnectionContract, ARowWithoutAnyValueTakesTheDefaults) {
   const std::int64_t id = connection().Insert("SCADENZE", {});
-  EXPECT_EQ(Rows("SELECT Scadenza, IsOrdex FROM SCADENZE WHERE ID_Scadenza = " +
-                 std::to_string(id)),
-            (std::vector<Row>{{Null{}, false}}));
+  EXPECT_EQ(
+      Rows("SELECT Scadenza, IsOrdex FROM SCADENZE WHERE ID_Scadenza = " + std::to_string(id)),
+      (std::vector<Row>{{Null{}, false}}));
 }
 
 TEST_P(ConnectionContract, RowsOfDifferentShapesMayBeAddedByTurns) {
@@ -304,14 +302,6 @@ TEST_P(ConnectionContract, NoQueryStaysOpenOnceItsRowsAreRead) {
   EXPECT_EQ(query->FetchAll().size(), 1U);
   connection().Begin();
   connection().Commit();
-}
-
-TEST_P(ConnectionContract, AQueryOutlivesItsConnection) {
-  auto other = Connect();
-  const auto query = other->Prepare("SELECT ID_Utente FROM Utenti");
-  other.reset();
-  EXPECT_EQ(query->FetchAll().size(), 1U);
-  EXPECT_EQ(query->Columns().at(0).name, "ID_Utente");
 }
 
 }  // namespace

@@ -97,8 +97,7 @@ TEST(Tokenize, TwoDashesWithoutALineEndAreAComment) {
 }
 
 TEST(Tokenize, AWordMayStandDirectlyBehindANumber) {
-  EXPECT_EQ(Tokenize("1DROP"),
-            (Tokens{{TokenKind::kNumber, "1"}, {TokenKind::kWord, "DROP"}}));
+  EXPECT_EQ(Tokenize("1DROP"), (Tokens{{TokenKind::kNumber, "1"}, {TokenKind::kWord, "DROP"}}));
   EXPECT_EQ(Tokenize("1e5"), (Tokens{{TokenKind::kNumber, "1e5"}}));
 }
 
@@ -110,8 +109,8 @@ TEST(RequireOneSelect, TheRoutinesQueriesPass) {
         "Select ID_Pra from Pratica where NumeroRegGenerale = '1/2024'",
         "select * from SCADENZE where  Data_End =CONVERT (SMALLDATETIME,'05/03/2024', 105)  and "
         "Codice_Pra = 1",
-        "SELECT MAX(NumPos) AS PosMax FROM Pratica",
-        "  select 1;", "/* a */ select 1 -- b", "select 1 ; \n -- fine"}) {
+        "SELECT MAX(NumPos) AS PosMax FROM Pratica", "  select 1;", "/* a */ select 1 -- b",
+        "select 1 ; \n -- fine"}) {
     EXPECT_EQ(Refusal(sql), DbRaised{}) << sql;
   }
 }
@@ -143,9 +142,8 @@ TEST(RequireOneSelect, AWordThatOnlyBeginsLikeAStatementIsAName) {
 }
 
 TEST(RequireOneSelect, WhatDoesNotBeginWithSelectIsRefused) {
-  EXPECT_EQ(
-      Refusal("Delete from EventiPraOrdex where ID_PraRel = 1"),
-      DbError("interrogazione rifiutata: il testo SQL non comincia con SELECT: Delete"));
+  EXPECT_EQ(Refusal("Delete from EventiPraOrdex where ID_PraRel = 1"),
+            DbError("interrogazione rifiutata: il testo SQL non comincia con SELECT: Delete"));
   for (const char* sql : {"(select 1)", "with a as (select 1) select * from a", "selecta 1",
                           "pragma user_version", "'select' 1"}) {
     EXPECT_EQ(Refusal(sql).number, kDatabaseNumber) << sql;
@@ -274,8 +272,7 @@ TEST(RewriteForSqlite, OnlyAComparisonWithEqualsIsRewritten) {
 TEST(RewriteForSqlite, BitsAreRewrittenInStatementsThatAreNoSelectToo) {
   EXPECT_EQ(Rewritten("delete from SCADENZE where IsOrdex = 'TRUE'"),
             "delete from SCADENZE where IsOrdex = 1");
-  EXPECT_EQ(Rewritten("update SCADENZE set IsOrdex = 'FALSE'"),
-            "update SCADENZE set IsOrdex = 0");
+  EXPECT_EQ(Rewritten("update SCADENZE set IsOrdex = 'FALSE'"), "update SCADENZE set IsOrdex = 0");
 }
 
 TEST(RewriteForSqlite, TheAgendaDuplicateTestIsRewrittenAsAWhole) {
@@ -287,8 +284,7 @@ TEST(RewriteForSqlite, TheAgendaDuplicateTestIsRewrittenAsAWhole) {
 }
 
 TEST(RewriteForSqlite, NothingInsideALiteralAQuotedNameOrACommentIsTouched) {
-  ExpectUnchanged(
-      "select 'ucase(x) #03/05/2024# CONVERT (SMALLDATETIME,''x'', 105) \"a\"' from T");
+  ExpectUnchanged("select 'ucase(x) #03/05/2024# CONVERT (SMALLDATETIME,''x'', 105) \"a\"' from T");
   ExpectUnchanged("select [ucase(x) = 'TRUE'] from Utenti");
   ExpectUnchanged("select 1 -- ucase(x) #1# \"a\"\n from T");
   ExpectUnchanged("select 1 /* ucase(x) \"a\" */ from T");
@@ -297,7 +293,8 @@ TEST(RewriteForSqlite, NothingInsideALiteralAQuotedNameOrACommentIsTouched) {
 
 TEST(RewriteForSqlite, WhatNeedsNoRewritingPassesByteForByteAndAsksNothing) {
   const std::string sql =
-      "SELECT *\r\n from  Pratica\tinner join Utenti on Pratica.ID_Contab = Utenti.ID_Utente  where "
+      "SELECT *\r\n from  Pratica\tinner join Utenti on Pratica.ID_Contab = Utenti.ID_Utente  "
+      "where "
       "Pratica.NumeroRegGenerale = '12/2024 è'";
   Catalog catalog;
   EXPECT_EQ(RewriteForSqlite(Tokenize(sql), catalog), sql);

@@ -86,8 +86,9 @@ TEST(FitToColumn, AnIntegerColumnTakesBitsAndWholeFractions) {
 
 TEST(FitToColumn, WhatIsNoWholeNumberIsAMismatchThatNamesValueAndColumn) {
   EXPECT_EQ(DbRaisedBy([] { FitToColumn(Text("dodici"), kInteger); }),
-            (DbRaised{13, "Tipo non corrispondente: \"dodici\" non è un numero intero, come vuole "
-                          "la colonna \"Col\""}));
+            (DbRaised{13,
+                      "Tipo non corrispondente: \"dodici\" non è un numero intero, come vuole "
+                      "la colonna \"Col\""}));
   for (const char* text : {"", " ", "1.5", "1,5", "1e3", "0x10", "+-3", "--3", "12a"}) {
     EXPECT_EQ(DbRaisedBy([&] { FitToColumn(Text(text), kInteger); }).number, 13) << text;
   }
@@ -160,8 +161,9 @@ TEST(FitToColumn, ABitColumnTakesTrueAndFalseInBothLanguagesAndAsNumbers) {
 
 TEST(FitToColumn, WhatIsNeitherTrueNorFalseIsAMismatch) {
   EXPECT_EQ(DbRaisedBy([] { FitToColumn(Text("forse"), kBit); }),
-            (DbRaised{13, "Tipo non corrispondente: \"forse\" non è un valore vero o falso, come "
-                          "vuole la colonna \"Col\""}));
+            (DbRaised{13,
+                      "Tipo non corrispondente: \"forse\" non è un valore vero o falso, come "
+                      "vuole la colonna \"Col\""}));
   EXPECT_EQ(DbRaisedBy([] { FitToColumn(Text(""), kBit); }).number, 13);
   EXPECT_EQ(DbRaisedBy([] { FitToColumn(Whole(2), kBit); }).number, 13);
   EXPECT_EQ(DbRaisedBy([] { FitToColumn(kFifthOfMarch, kBit); }).number, 13);
@@ -181,8 +183,9 @@ TEST(FitToColumn, AnEmptyOrBlankTextIsNoDateAndSoNull) {
 
 TEST(FitToColumn, WhatIsNoDateIsAMismatchThatNamesValueAndColumn) {
   EXPECT_EQ(DbRaisedBy([] { FitToColumn(Text("31/02/2024"), kDate); }),
-            (DbRaised{13, "Tipo non corrispondente: \"31/02/2024\" non è una data (GG/MM/AAAA), "
-                          "come vuole la colonna \"Col\""}));
+            (DbRaised{13,
+                      "Tipo non corrispondente: \"31/02/2024\" non è una data (GG/MM/AAAA), "
+                      "come vuole la colonna \"Col\""}));
   EXPECT_EQ(DbRaisedBy([] { FitToColumn(Text("2024-03-05"), kDate); }).number, 13);
   EXPECT_EQ(DbRaisedBy([] { FitToColumn(Whole(45000), kDate); }).number, 13);
   EXPECT_EQ(DbRaisedBy([] { FitToColumn(true, kDate); }).number, 13);

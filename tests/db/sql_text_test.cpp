@@ -26,8 +26,9 @@ TEST(FormattaStringaSql, NothingButTheApostropheIsEscaped) {
 TEST(FormattaStringaSql, TheLongestTextHas32767CharactersAndOneMoreOverflows) {
   EXPECT_EQ(FormattaStringaSql(std::string(32767, 'x')).size(), 32769U);
   EXPECT_EQ(DbRaisedBy([] { FormattaStringaSql(std::string(32768, 'x')); }),
-            (DbRaised{6, "Overflow: un testo SQL può avere al più 32767 caratteri, questo ne ha "
-                         "32768"}));
+            (DbRaised{6,
+                      "Overflow: un testo SQL può avere al più 32767 caratteri, questo ne ha "
+                      "32768"}));
 }
 
 TEST(FormattaStringaSql, TheLimitCountsCharactersAndNotBytes) {

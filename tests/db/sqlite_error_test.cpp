@@ -16,8 +16,7 @@ TEST(SqliteErrorText, EveryKindOfFailureSaysWhatToDo) {
        "il database è di sola lettura; controllare i diritti di scrittura sul file e sulla sua "
        "cartella"},
       {SQLITE_FULL, "il disco è pieno; liberare spazio e riprovare"},
-      {SQLITE_NOTADB,
-       "il file non è un database; controllare il nome del file nelle impostazioni"},
+      {SQLITE_NOTADB, "il file non è un database; controllare il nome del file nelle impostazioni"},
       {SQLITE_CORRUPT, "il database è danneggiato; ripristinarlo da una copia di sicurezza"},
       {SQLITE_CONSTRAINT, "la riga non rispetta una regola della tabella (parole)"},
       {SQLITE_CANTOPEN,

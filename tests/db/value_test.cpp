@@ -28,30 +28,30 @@ TEST(Value, DatesAreDayFirstAndShowTheirTimeOnlyWhereThereIsOne) {
 }
 
 TEST(Value, NullAsANumberIsAnInvalidUseOfNull) {
-  EXPECT_EQ(DbRaisedBy([] { ToInt32(Value(Null{})); }),
+  EXPECT_EQ(DbRaisedBy([] { AsInt32(Value(Null{})); }),
             (DbRaised{94, "Utilizzo non valido di Null"}));
 }
 
 TEST(Value, AWholeNumberOf32BitsIsTakenAndItsNeighboursOverflow) {
-  EXPECT_EQ(ToInt32(Value(std::int64_t{2147483647})), 2147483647);
-  EXPECT_EQ(ToInt32(Value(std::int64_t{-2147483648})), -2147483647 - 1);
-  EXPECT_EQ(DbRaisedBy([] { ToInt32(Value(std::int64_t{2147483648})); }),
+  EXPECT_EQ(AsInt32(Value(std::int64_t{2147483647})), 2147483647);
+  EXPECT_EQ(AsInt32(Value(std::int64_t{-2147483648})), -2147483647 - 1);
+  EXPECT_EQ(DbRaisedBy([] { AsInt32(Value(std::int64_t{2147483648})); }),
             (DbRaised{6, "Overflow: 2147483648"}));
-  EXPECT_EQ(DbRaisedBy([] { ToInt32(Value(std::int64_t{-2147483649})); }).number, 6);
-  EXPECT_EQ(DbRaisedBy([] { ToInt32(Value(1e300)); }).number, 6);
+  EXPECT_EQ(DbRaisedBy([] { AsInt32(Value(std::int64_t{-2147483649})); }).number, 6);
+  EXPECT_EQ(DbRaisedBy([] { AsInt32(Value(1e300)); }).number, 6);
 }
 
 TEST(Value, AFractionADateAndABitAreNoWholeNumber) {
-  EXPECT_EQ(ToInt32(Value(7.0)), 7);
-  EXPECT_EQ(DbRaisedBy([] { ToInt32(Value(7.5)); }),
+  EXPECT_EQ(AsInt32(Value(7.0)), 7);
+  EXPECT_EQ(DbRaisedBy([] { AsInt32(Value(7.5)); }),
             (DbRaised{13, "Tipo non corrispondente: 7,5 non è un numero intero"}));
-  EXPECT_EQ(DbRaisedBy([] { ToInt32(Value(true)); }).number, 13);
-  EXPECT_EQ(DbRaisedBy([] { ToInt32(Value(DateTime{})); }).number, 13);
+  EXPECT_EQ(DbRaisedBy([] { AsInt32(Value(true)); }).number, 13);
+  EXPECT_EQ(DbRaisedBy([] { AsInt32(Value(DateTime{})); }).number, 13);
 }
 
 TEST(Value, ATextOfDigitsIsAWholeNumberAndAnyOtherIsNot) {
-  EXPECT_EQ(ToInt32(Value(std::string(" 12 "))), 12);
-  EXPECT_EQ(DbRaisedBy([] { ToInt32(Value(std::string("dodici"))); }).number, 13);
+  EXPECT_EQ(AsInt32(Value(std::string(" 12 "))), 12);
+  EXPECT_EQ(DbRaisedBy([] { AsInt32(Value(std::string("dodici"))); }).number, 13);
 }
 
 TEST(Value, NullIsFalseAndEveryNumberButZeroIsTrue) {

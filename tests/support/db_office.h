@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -25,9 +26,13 @@ class DbDiagnostics final : public Diagnostics {
   void Trapped(std::string_view routine, const RunTimeError& error) override {
     trapped.push_back({std::string(routine), error.description()});
   }
+  void Failed(const RunTimeError& error, std::optional<std::size_t> /*line*/) override {
+    failed.push_back(error.description());
+  }
 
   std::vector<std::string> sql;
   std::vector<TrappedError> trapped;
+  std::vector<std::string> failed;
 };
 
 class DbOffice {
@@ -43,7 +48,9 @@ class DbOffice {
   Database database() { return {*connection_, diagnostics_}; }
 
   // The one value that a SELECT of the engine's own SQL gives.
-  Value One(std::string_view sql) { return connection_->PrepareNative(sql, {})->FetchAll().at(0).at(0); }
+  Value One(std::string_view sql) {
+    return connection_->PrepareNative(sql, {})->FetchAll().at(0).at(0);
+  }
 
  private:
   DbTemporaryFolder folder_;

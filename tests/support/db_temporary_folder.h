@@ -17,11 +17,10 @@ class DbTemporaryFolder {
     if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder: " + name);
     path_ = name;
     // Tests about rights enter it as another user.
-    std::filesystem::permissions(path_, std::filesystem::perms::owner_all |
-                                            std::filesystem::perms::group_read |
-                                            std::filesystem::perms::group_exec |
-                                            std::filesystem::perms::others_read |
-                                            std::filesystem::perms::others_exec);
+    std::filesystem::permissions(
+        path_, std::filesystem::perms::owner_all | std::filesystem::perms::group_read |
+                   std::filesystem::perms::group_exec | std::filesystem::perms::others_read |
+                   std::filesystem::perms::others_exec);
   }
   ~DbTemporaryFolder() {
     std::error_code ignored;

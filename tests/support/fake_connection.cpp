@@ -40,8 +40,7 @@ class FakeConnection::FakeQuery final : public Query {
 
 std::size_t FakeConnection::Count(std::string_view start) const {
   const auto begins = [&](const std::string& statement) { return statement.starts_with(start); };
-  return static_cast<std::size_t>(
-      std::count_if(statements_.begin(), statements_.end(), begins));
+  return static_cast<std::size_t>(std::count_if(statements_.begin(), statements_.end(), begins));
 }
 
 void FakeConnection::FailAt(std::size_t number, FakeFailure failure) {
@@ -73,8 +72,7 @@ std::unique_ptr<Query> FakeConnection::Prepare(std::string_view sql) {
 std::unique_ptr<Query> FakeConnection::PrepareNative(std::string_view sql,
                                                      std::span<const Value> parameters) {
   Note("PREPARE " + std::string(sql));
-  return std::make_unique<FakeQuery>(*this, real_.PrepareNative(sql, parameters),
-                                     std::string(sql));
+  return std::make_unique<FakeQuery>(*this, real_.PrepareNative(sql, parameters), std::string(sql));
 }
 
 void FakeConnection::Execute(std::string_view sql) {
@@ -91,9 +89,8 @@ std::int64_t FakeConnection::Insert(const std::string& table, std::span<const Na
   return real_.Insert(table, values);
 }
 
-std::int64_t FakeConnection::UpdateRow(const std::string& table,
-                                       std::span<const NamedValue> values, const std::string& key,
-                                       const Value& keyValue) {
+std::int64_t FakeConnection::UpdateRow(const std::string& table, std::span<const NamedValue> values,
+                                       const std::string& key, const Value& keyValue) {
   Note("UPDATE " + Shape(table, values));
   return real_.UpdateRow(table, values, key, keyValue);
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 
 #include "base/date.h"
@@ -162,7 +163,7 @@ bool IsSymbol(const Token& token, char symbol) {
 }
 
 // Words that begin a statement. SQL Server needs no semicolon in front of them, and none of them
-// can be a name unless it is quoted.
+// can be a name unless it is quoted. In alphabetical order.
 constexpr std::array<std::string_view, 38> kStatementWords = {
     "ALTER",    "BACKUP",   "BEGIN",     "BREAK",   "BULK",    "CHECKPOINT", "CLOSE",    "COMMIT",
     "CREATE",   "DBCC",     "DECLARE",   "DELETE",  "DENY",    "DROP",       "DUMP",     "EXEC",
@@ -170,20 +171,25 @@ constexpr std::array<std::string_view, 38> kStatementWords = {
     "OPEN",     "PRINT",    "RAISERROR", "RESTORE", "RETURN",  "REVOKE",     "ROLLBACK", "SET",
     "SHUTDOWN", "TRUNCATE", "UPDATE",    "USE",     "WAITFOR", "WHILE"};
 
-constexpr std::array<bool, 256> MakeFirstLetters() {
-  std::array<bool, 256> letters{};
-  for (const std::string_view word : kStatementWords) {
-    letters.at(static_cast<unsigned char>(word.front())) = true;
-    letters.at(static_cast<unsigned char>(word.front() + ('a' - 'A'))) = true;
+// For each letter the place of the first word that begins with it or a later one.
+constexpr std::array<std::uint8_t, 27> MakePlaces() {
+  std::array<std::uint8_t, 27> places{};
+  for (std::size_t letter = 0; letter < places.size(); ++letter) {
+    for (const std::string_view word : kStatementWords) {
+      if (static_cast<std::size_t>(word.front() - 'A') < letter) ++places.at(letter);
+    }
   }
-  return letters;
+  return places;
 }
 
-constexpr std::array<bool, 256> kFirstLetters = MakeFirstLetters();
+constexpr std::array<std::uint8_t, 27> kPlaces = MakePlaces();
 
 bool BeginsStatement(std::string_view word) {
-  if (!kFirstLetters[static_cast<unsigned char>(word.front())]) return false;
-  return std::any_of(kStatementWords.begin(), kStatementWords.end(),
+  const char first = LowerAscii(word.front());
+  if (first < 'a' || first > 'z') return false;
+  const auto letter = static_cast<std::size_t>(first - 'a');
+  return std::any_of(kStatementWords.begin() + kPlaces[letter],
+                     kStatementWords.begin() + kPlaces[letter + 1],
                      [&](std::string_view known) { return EqualAscii(word, known); });
 }
 

@@ -22,6 +22,14 @@ RunTimeError ExistsError(const fs::path& file) {
   return CreateError(file, "il file esiste già; indicare un altro nome o spostare il file");
 }
 
+// The error's own words, without the standard wording that will stand in front again.
+std::string_view Detail(const RunTimeError& error) {
+  std::string_view text = error.description();
+  const std::string wording = Describe(ErrorNumber::kDatabase) + ": ";
+  if (text.starts_with(wording)) text.remove_prefix(wording.size());
+  return text;
+}
+
 constexpr std::array<std::string_view, 3> kWorkingFiles = {"-wal", "-shm", "-journal"};
 
 // What a database of the same name left behind would be played back into the new one.
@@ -104,7 +112,7 @@ void CreateSqliteDatabase(const fs::path& file, bool sample) {
     const SqliteHandle database = MakeSqliteFile(made.path());
     Fill(database.get(), sample);
   } catch (const RunTimeError& error) {
-    throw SqliteFileError(file, error.description());
+    throw CreateError(file, Detail(error));
   }
   PutInPlace(made.path(), file);
 }

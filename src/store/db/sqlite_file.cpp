@@ -114,8 +114,8 @@ SqliteHandle OpenSqliteFile(const fs::path& file, int busyMilliseconds) {
 SqliteHandle MakeSqliteFile(const fs::path& file) {
   Opened opened = Open(SqliteFileName(file), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, 0);
   if (opened.code != SQLITE_OK) {
-    throw SqliteFileError(file, "impossibile creare il database: " +
-                                    SqliteErrorText(opened.code, sqlite3_errstr(opened.code)));
+    throw MakeError(ErrorNumber::kDatabase,
+                    SqliteErrorText(opened.code, sqlite3_errstr(opened.code)));
   }
   return std::move(opened.database);
 }

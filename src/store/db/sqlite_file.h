@@ -17,7 +17,7 @@ std::string SqliteFileName(const std::filesystem::path& file);
 // no rights, no database.
 SqliteHandle OpenSqliteFile(const std::filesystem::path& file, int busyMilliseconds);
 
-// Makes a new, empty database. Error (database), naming the file.
+// Makes a new, empty database. Error (database), without the file's name.
 SqliteHandle MakeSqliteFile(const std::filesystem::path& file);
 
 }  // namespace ordex

@@ -1,0 +1,38 @@
+#!/usr/bin/env bash
+# Passes the tests, on a bare Debian machine too.
+#   ./test.sh        the quick set: unit, contract and session tests
+#   ./test.sh --all  also lint, benchmarks once, and the whole suite under the sanitizers
+set -euo pipefail
+export PATH="${PATH:-/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin}" HOME="${HOME:-/root}"
+cd "$(dirname "$0")"
+. scripts/packages.sh
+
+run_tests() {
+  ctest --test-dir "build/$1" --output-on-failure -j "$(nproc)" --timeout 300 --no-tests=error
+}
+
+quick() {
+  need_packages $BUILD_PACKAGES $TEST_PACKAGES
+  echo "== release build"
+  build_preset release
+  echo "== tests"
+  run_tests release
+}
+
+all() {
+  need_packages $BUILD_PACKAGES $TEST_PACKAGES $BENCH_PACKAGES $LINT_PACKAGES
+  echo "== format and lint"
+  scripts/lint.sh
+  quick
+  echo "== benchmarks, once each"
+  bench/run.sh --once
+  echo "== tests under the address and undefined-behaviour sanitizers"
+  build_preset debug
+  run_tests debug
+}
+
+case "${1:-}" in
+  "") quick ;;
+  --all) all ;;
+  *) echo "usage: ./test.sh [--all]" >&2; exit 2 ;;
+esac

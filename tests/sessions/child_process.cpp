@@ -1,0 +1,158 @@
+#include "child_process.h"
+
+#include <fcntl.h>
+#include <grp.h>
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <csignal>
+#include <stdexcept>
+
+namespace ordex::sessions {
+namespace {
+
+constexpr uid_t kNobody = 65534;
+constexpr int kCannotRun = 127;
+
+struct Pipe {
+  int reading = -1;
+  int writing = -1;
+};
+
+// Ours alone: a further process must not hold an end open.
+Pipe MakePipe() {
+  std::array<int, 2> ends{};
+  if (pipe2(ends.data(), O_CLOEXEC) != 0) throw std::runtime_error("no pipe");
+  return {ends[0], ends[1]};
+}
+
+std::vector<char*> Pointers(std::vector<std::string>& texts) {
+  std::vector<char*> pointers;
+  for (std::string& text : texts) pointers.push_back(text.data());
+  pointers.push_back(nullptr);
+  return pointers;
+}
+
+// Our environment, with the task's entries in place of ours.
+std::vector<std::string> EnvironmentOf(const ProcessTask& task) {
+  std::vector<std::string> entries;
+  for (char** entry = environ; *entry != nullptr; ++entry) {
+    const std::string_view text = *entry;
+    const bool replaced =
+        std::any_of(task.environment.begin(), task.environment.end(),
+                    [&](const auto& ours) { return text.starts_with(ours.first + "="); });
+    if (!replaced) entries.emplace_back(text);
+  }
+  for (const auto& [name, value] : task.environment) entries.push_back(name + "=" + value);
+  return entries;
+}
+
+// For root no right is ever missing.
+bool BecomeNobody() {
+  if (geteuid() != 0) return true;
+  return setgroups(0, nullptr) == 0 && setgid(kNobody) == 0 && setuid(kNobody) == 0;
+}
+
+}  // namespace
+
+ChildProcess::ChildProcess(const ProcessTask& task, Clock::time_point deadline)
+    : deadline_(deadline) {
+  std::vector<std::string> command = task.command;
+  std::vector<std::string> environment = EnvironmentOf(task);
+  const std::vector<char*> arguments = Pointers(command);
+  const std::vector<char*> variables = Pointers(environment);
+  const Pipe in = MakePipe();
+  const Pipe out = MakePipe();
+  const Pipe err = MakePipe();
+  id_ = fork();
+  if (id_ == 0) {
+    // Between fork and exec only what is safe beside other threads.
+    const bool ready = chdir(task.folder.c_str()) == 0 && dup2(in.reading, STDIN_FILENO) >= 0 &&
+                       dup2(out.writing, STDOUT_FILENO) >= 0 &&
+                       dup2(err.writing, STDERR_FILENO) >= 0 && (!task.asNobody || BecomeNobody());
+    if (ready) execvpe(arguments[0], arguments.data(), variables.data());
+    _exit(kCannotRun);
+  }
+  for (const int end : {in.reading, out.writing, err.writing}) close(end);
+  input_ = in.writing;
+  outputPipe_ = out.reading;
+  errorPipe_ = err.reading;
+  if (id_ < 0) throw std::runtime_error("no process");
+}
+
+ChildProcess::~ChildProcess() {
+  CloseInput();
+  if (id_ > 0) {
+    kill(id_, SIGKILL);
+    Reap();
+  }
+  for (const int end : {outputPipe_, errorPipe_}) {
+    if (end >= 0) close(end);
+  }
+}
+
+void ChildProcess::CloseInput() {
+  if (input_ >= 0) close(input_);
+  input_ = -1;
+}
+
+void ChildProcess::Write(std::string_view text) const {
+  while (!text.empty()) {
+    const ssize_t count = write(input_, text.data(), text.size());
+    if (count <= 0) return;  // it has ended already, and its output tells why
+    text.remove_prefix(static_cast<std::size_t>(count));
+  }
+}
+
+// False where there is nothing more to read, or the time is over.
+bool ChildProcess::ReadSome() {
+  std::array<pollfd, 2> ends = {pollfd{outputPipe_, POLLIN, 0}, pollfd{errorPipe_, POLLIN, 0}};
+  if (outputPipe_ < 0 && errorPipe_ < 0) return false;
+  const auto left =
+      std::chrono::duration_cast<std::chrono::milliseconds>(deadline_ - Clock::now()).count();
+  if (left <= 0 || poll(ends.data(), ends.size(), static_cast<int>(left)) <= 0) {
+    timedOut_ = true;
+    return false;
+  }
+  const auto take = [](const pollfd& end, int& pipe, std::string& text) {
+    if (pipe < 0 || end.revents == 0) return;
+    std::array<char, 65536> buffer{};
+    const ssize_t count = read(pipe, buffer.data(), buffer.size());
+    if (count > 0) {
+      text.append(buffer.data(), static_cast<std::size_t>(count));
+    } else {
+      close(pipe);
+      pipe = -1;
+    }
+  };
+  take(ends[0], outputPipe_, output_);
+  take(ends[1], errorPipe_, errors_);
+  return true;
+}
+
+bool ChildProcess::ReadUntil(const std::function<bool(const std::string& output)>& enough) {
+  while (!enough(output_)) {
+    if (!ReadSome()) return !timedOut_;
+  }
+  return true;
+}
+
+void ChildProcess::Finish() {
+  CloseInput();
+  while (ReadSome()) {
+  }
+  if (timedOut_) kill(id_, SIGKILL);
+  Reap();
+}
+
+void ChildProcess::Reap() {
+  int status = 0;
+  waitpid(id_, &status, 0);
+  id_ = -1;
+  exitCode_ = WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+}
+
+}  // namespace ordex::sessions
