@@ -8,6 +8,7 @@
 #include "benchmarks.h"
 #include "cases/case_choice_rules.h"
 #include "cases/case_search.h"
+#include "native_log.h"
 #include "statement_log.h"
 #include "store/db/open_connection.h"
 #include "store/db/sqlite_connection.h"
@@ -55,9 +56,40 @@ struct LargeOffice {
   std::string lastCase;
 };
 
+void Bind(sqlite3_stmt* statement, const std::vector<Value>& parameters) {
+  for (std::size_t i = 0; i < parameters.size(); ++i) {
+    const auto place = static_cast<int>(i + 1);
+    if (const auto* text = std::get_if<std::string>(&parameters[i])) {
+      sqlite3_bind_text(statement, place, text->data(), static_cast<int>(text->size()),
+                        SQLITE_STATIC);
+    } else {
+      sqlite3_bind_int64(statement, place, std::get<std::int64_t>(parameters[i]));
+    }
+  }
+}
+
+void RunSelect(sqlite3* database, const NativeSelect& select) {
+  sqlite3_stmt* statement = nullptr;
+  sqlite3_prepare_v2(database, select.sql.c_str(), static_cast<int>(select.sql.size()), &statement,
+                     nullptr);
+  Bind(statement, select.parameters);
+  while (sqlite3_step(statement) == SQLITE_ROW) {
+    for (int i = 0; i < sqlite3_column_count(statement); ++i) sqlite3_column_text(statement, i);
+  }
+  sqlite3_finalize(statement);
+}
+
+void AddProgram(LargeOffice& office, const std::string& group,
+                const std::function<void(Connection&)>& work) {
+  benchmark::RegisterBenchmark((group + "/program").c_str(),
+                               [&office, work](benchmark::State& state) {
+                                 for (auto _ : state) work(*office.connection);
+                               });
+}
+
 // Both sides keep their connection open, as the program does.
-void AddPair(RatioReporter& reporter, LargeOffice& office, const std::string& group,
-             const std::function<void(Connection&)>& work) {
+void AddLookUp(RatioReporter& reporter, LargeOffice& office, const std::string& group,
+               const std::function<void(Connection&)>& work) {
   const std::vector<std::string> statements = StatementsOf([&] {
     const auto connection = OpenSqlite(office.folder / "office.db");
     work(*connection);
@@ -66,10 +98,26 @@ void AddPair(RatioReporter& reporter, LargeOffice& office, const std::string& gr
                                [&office, statements](benchmark::State& state) {
                                  for (auto _ : state) RunOnBareEngine(office.bare, statements);
                                });
-  benchmark::RegisterBenchmark((group + "/program").c_str(),
-                               [&office, work](benchmark::State& state) {
-                                 for (auto _ : state) work(*office.connection);
+  AddProgram(office, group, work);
+  reporter.Aim(group, 1.2);
+}
+
+void AddSearch(RatioReporter& reporter, LargeOffice& office, const std::string& group,
+               const std::string& text) {
+  NativeLog log(*office.connection);
+  SearchCases(log, text);
+  benchmark::RegisterBenchmark((group + "/baseline").c_str(),
+                               [&office, selects = log.selects()](benchmark::State& state) {
+                                 for (auto _ : state) {
+                                   for (const NativeSelect& one : selects) {
+                                     RunSelect(office.bare, one);
+                                   }
+                                 }
                                });
+  AddProgram(office, group, [text](Connection& connection) {
+    auto found = SearchCases(connection, text);
+    benchmark::DoNotOptimize(found);
+  });
   reporter.Aim(group, 1.2);
 }
 
@@ -82,21 +130,14 @@ void LookUp(Connection& connection) {
   benchmark::DoNotOptimize(choice);
 }
 
-std::function<void(Connection&)> SearchFor(const std::string& text) {
-  return [text](Connection& connection) {
-    auto found = SearchCases(connection, text);
-    benchmark::DoNotOptimize(found);
-  };
-}
-
 }  // namespace
 
 void AddSearchBenchmarks(RatioReporter& reporter, std::int64_t cases) {
   static LargeOffice office(cases);
-  AddPair(reporter, office, "look-up by number", LookUp);
-  AddPair(reporter, office, "search number", SearchFor("4711/19"));
-  AddPair(reporter, office, "search surname", SearchFor("cognome4711"));
-  AddPair(reporter, office, "search subject", SearchFor("n. " + office.lastCase + " in"));
+  AddLookUp(reporter, office, "look-up by number", LookUp);
+  AddSearch(reporter, office, "search number", "4711/19");
+  AddSearch(reporter, office, "search surname", "cognome4711");
+  AddSearch(reporter, office, "search subject", "n. " + office.lastCase + " in");
 }
 
 }  // namespace ordex::bench

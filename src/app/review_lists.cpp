@@ -12,7 +12,7 @@ namespace ordex {
 namespace {
 
 // Rows as their sort key sees them: column 1 is the row's text, the others its sub-items.
-const std::string& CellText(const ReviewRow& row, int sortKey) {
+std::string_view CellText(const ReviewRow& row, int sortKey) {
   return sortKey == 0 ? row.text : row.sub[static_cast<std::size_t>(sortKey - 1)];
 }
 
@@ -38,10 +38,7 @@ void WriteListView(ReviewList& lstImport, std::string_view ValueItem, std::strin
                    std::string_view SecondSubItem, std::string_view ThirdSubItem,
                    std::string_view szTag) {
   lstImport.order.push_back(static_cast<std::uint32_t>(lstImport.rows.size()));
-  lstImport.rows.push_back({std::string(ValueItem),
-                            {std::string(FirstSubItem), std::string(SecondSubItem),
-                             std::string(ThirdSubItem)},
-                            std::string(szTag)});
+  lstImport.rows.push_back({ValueItem, {FirstSubItem, SecondSubItem, ThirdSubItem}, szTag});
   if (szTag.empty()) return;
   lstImport.taggedRows.push_back(lstImport.rows.size());
   lstImport.hasTaggedRows = true;

@@ -1,5 +1,6 @@
 #include "base/keyed_table.h"
 
+#include <iterator>
 #include <utility>
 
 #include "base/ascii_words.h"
@@ -37,6 +38,8 @@ std::size_t KeyedTable::Hash::operator()(std::string_view key) const {
 
 bool KeyedTable::Equal::operator()(std::string_view a, std::string_view b) const {
   if (a.size() != b.size()) return false;
+  // Mostly the letter case is the same too.
+  if (a == b) return true;
   for (std::size_t at = 0; at + kWordSize < a.size(); at += kWordSize) {
     if (LowerAsciiWord(LoadWord(a.data() + at)) != LowerAsciiWord(LoadWord(b.data() + at))) {
       return false;
@@ -45,20 +48,36 @@ bool KeyedTable::Equal::operator()(std::string_view a, std::string_view b) const
   return LowerAsciiWord(LastWord(a)) == LowerAsciiWord(LastWord(b));
 }
 
+KeyedTable::KeyedTable(const KeyedTable& other) {
+  for (const Entry& entry : other.entries_) Add(entry.value, entry.key);
+}
+
+KeyedTable& KeyedTable::operator=(const KeyedTable& other) {
+  return *this = KeyedTable(other);
+}
+
 KeyedTable::Index::const_iterator KeyedTable::Find(std::string_view key) const {
   return IsAscii(key) ? index_.find(key) : index_.find(Lower(key));
 }
 
+KeyedTable::Index::iterator KeyedTable::Find(std::string_view key) {
+  return IsAscii(key) ? index_.find(key) : index_.find(Lower(key));
+}
+
 void KeyedTable::Add(std::string value, std::string_view key) {
-  if (!key.empty() && !index_.try_emplace(Lower(key), slots_.size()).second) {
-    throw MakeError(ErrorNumber::kDuplicateKey, Quoted(key));
+  if (!key.empty()) {
+    const auto [place, added] =
+        index_.try_emplace(IsAscii(key) ? std::string(key) : Lower(key), entries_.end());
+    if (!added) throw MakeError(ErrorNumber::kDuplicateKey, Quoted(key));
+    place->second = entries_.insert(entries_.end(), {std::string(key), std::move(value)});
+  } else {
+    entries_.push_back({{}, std::move(value)});
   }
-  slots_.push_back({{std::string(key), std::move(value)}, false});
 }
 
 const std::string* KeyedTable::Lookup(std::string_view key) const {
   const auto found = Find(key);
-  return found == index_.end() ? nullptr : &slots_[found->second].entry.value;
+  return found == index_.end() ? nullptr : &found->second->value;
 }
 
 const std::string& KeyedTable::Item(std::string_view key) const {
@@ -71,53 +90,36 @@ const KeyedTable::Entry& KeyedTable::At(std::size_t position) const {
   if (position < 1 || position > Count()) {
     throw MakeError(ErrorNumber::kSubscript, std::to_string(position));
   }
-  if (removed_ == 0) return slots_[position - 1].entry;
-  std::size_t slot = 0;
-  for (;; ++slot) {
-    if (!slots_[slot].removed && --position == 0) return slots_[slot].entry;
-  }
+  return *std::next(entries_.begin(), static_cast<std::ptrdiff_t>(position - 1));
 }
 
 std::string KeyedTable::Take(std::string_view key) {
   const auto found = Find(key);
   if (found == index_.end()) throw MakeError(ErrorNumber::kMissingKey, Quoted(key));
-  Slot& slot = slots_[found->second];
-  std::string value = std::move(slot.entry.value);
+  std::string value = std::move(found->second->value);
+  entries_.erase(found->second);
   index_.erase(found);
-  slot = {{}, true};
-  ++removed_;
-  if (removed_ > slots_.size() / 2) SweepEmptySlots();
   return value;
+}
+
+std::string* KeyedTable::MoveToEnd(std::string_view key) {
+  const auto found = Find(key);
+  if (found == index_.end()) return nullptr;
+  entries_.splice(entries_.end(), entries_, found->second);
+  return &found->second->value;
 }
 
 void KeyedTable::Remove(std::string_view key) {
   Take(key);
 }
 
-void KeyedTable::SweepEmptySlots() {
-  std::vector<Slot> kept;
-  kept.reserve(slots_.size() - removed_);
-  for (Slot& slot : slots_) {
-    if (!slot.removed) kept.push_back(std::move(slot));
-  }
-  slots_ = std::move(kept);
-  removed_ = 0;
-  for (std::size_t i = 0; i < slots_.size(); ++i) {
-    if (!slots_[i].entry.key.empty()) index_[Lower(slots_[i].entry.key)] = i;
-  }
-}
-
 void KeyedTable::Clear() {
-  *this = KeyedTable();
+  index_.clear();
+  entries_.clear();
 }
 
 std::vector<KeyedTable::Entry> KeyedTable::Entries() const {
-  std::vector<Entry> entries;
-  entries.reserve(Count());
-  for (const Slot& slot : slots_) {
-    if (!slot.removed) entries.push_back(slot.entry);
-  }
-  return entries;
+  return {entries_.begin(), entries_.end()};
 }
 
 bool ItemExists(const KeyedTable& collection, std::string_view key) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <list>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -10,10 +11,17 @@
 namespace ordex {
 
 // Looked up by key (letter case ignored, Unicode) or by 1-based position. Removing an entry moves
-// those behind it one position down. Adding, looking up and removing by key take constant time;
-// so does a position, unless entries were removed: then it takes a walk.
+// those behind it one position down. Adding, looking up, removing and moving to the end by key take
+// constant time; a position takes a walk.
 class KeyedTable {
  public:
+  KeyedTable() = default;
+  ~KeyedTable() = default;
+  KeyedTable(const KeyedTable& other);
+  KeyedTable& operator=(const KeyedTable& other);
+  KeyedTable(KeyedTable&&) = default;
+  KeyedTable& operator=(KeyedTable&&) = default;
+
   struct Entry {
     std::string key;  // as written when it was added; empty when the entry has no key
     std::string value;
@@ -32,21 +40,18 @@ class KeyedTable {
   const std::string* Lookup(std::string_view key) const;
   bool Exists(std::string_view key) const { return Lookup(key) != nullptr; }
 
-  // Takes the value out together with its entry; the cheap way to build on an old value.
-  // Error: missing key.
+  // Takes the entry out and returns its value. Error: missing key.
   std::string Take(std::string_view key);
+  // The value under the key, for the caller to build on. Its entry moves to the end, as if it had
+  // been taken out and added again. Null where the key is absent.
+  std::string* MoveToEnd(std::string_view key);
 
-  std::size_t Count() const { return slots_.size() - removed_; }
+  std::size_t Count() const { return entries_.size(); }
   void Clear();
   // All entries in order.
   std::vector<Entry> Entries() const;
 
  private:
-  struct Slot {
-    Entry entry;
-    bool removed = false;
-  };
-
   // These two ignore the case of ASCII letters, so that a look-up builds no folded copy of its
   // key; other letters are folded beforehand.
   struct Hash {
@@ -57,16 +62,14 @@ class KeyedTable {
     using is_transparent = void;
     bool operator()(std::string_view a, std::string_view b) const;
   };
-  using Index = std::unordered_map<std::string, std::size_t, Hash, Equal>;
+  using Order = std::list<Entry>;
+  using Index = std::unordered_map<std::string, Order::iterator, Hash, Equal>;
 
   Index::const_iterator Find(std::string_view key) const;
-  void SweepEmptySlots();
+  Index::iterator Find(std::string_view key);
 
-  // A removed entry leaves an empty slot behind, swept away once the empty ones are the majority;
-  // so an entry that is taken out and added again and again costs nothing but its own work.
-  std::vector<Slot> slots_;
-  Index index_;  // lower-case key -> slot
-  std::size_t removed_ = 0;
+  Order entries_;
+  Index index_;
 };
 
 // True when the table holds an item under the key; the failed look-up raises no error.

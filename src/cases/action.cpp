@@ -97,11 +97,12 @@ ActionOutcome CreateOrUpdate(const ActionTask& task) {
     if (confirmed == Confirmed::kIncomplete) return ActionOutcome::kGoOn;
   }
   const CaseHeader& header = task.choice.ctlTestata1;
+  // The case is read afresh; one that a colleague has deleted meanwhile is no longer shown.
+  if (!ShowsNoCase(header)) task.ctlTestata1.LoadCase(header.idPra);
   if (ShowsNoCase(header)) {
     OfferCreate(task);
     return ActionOutcome::kGoOn;
   }
-  task.ctlTestata1.LoadCase(header.idPra);
   if (RefusesPenalCase(task)) return ActionOutcome::kGoOn;
   if (header.numeroRG != task.page.szNumeroRG && !AgreesToOtherNumber(task)) {
     return ActionOutcome::kGoOn;

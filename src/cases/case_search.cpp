@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 #include <unordered_map>
+#include <utility>
 
 #include "base/text.h"
 #include "cases/case_names.h"
@@ -49,6 +50,19 @@ std::string Holds(std::string_view text) {
   return "%" + Escaped(text) + "%";
 }
 
+// The embedded engine's LIKE ignores the case of ASCII letters alone: a text that holds others is
+// looked for as it stands, in small letters and in capitals.
+std::vector<std::string> Spellings(std::string_view text) {
+  std::vector<std::string> spellings = {std::string(text)};
+  const bool ascii = std::all_of(text.begin(), text.end(),
+                                 [](char letter) { return static_cast<unsigned char>(letter) < 0x80; });
+  if (ascii) return spellings;
+  for (std::string other : {Lower(text), Upper(text)}) {
+    if (other != text) spellings.push_back(std::move(other));
+  }
+  return spellings;
+}
+
 class Search {
  public:
   explicit Search(Connection& connection) : connection_(connection) {}
@@ -65,6 +79,11 @@ class Search {
       const bool known = std::find(hits_.begin(), hits_.end(), id) != hits_.end();
       if (!known && !Enough()) hits_.push_back(id);
     }
+  }
+
+  void AskForNumber(std::string_view text) {
+    Ask(kByNumber, {std::string(text)});
+    Ask(kByNumberLike, {BeginsWith(text)});
   }
 
   // Parties whose surname, or surname and first name, begin with the text. Where the one ends and
@@ -128,13 +147,13 @@ std::string_view TellingPiece(std::string_view text) {
 std::vector<FoundCase> SearchCases(Connection& connection, std::string_view text) {
   const std::string_view wanted = TellingPiece(Trim(text));
   if (wanted.empty()) return {};
+  const std::vector<std::string> spellings = Spellings(wanted);
   Search search(connection);
-  search.Ask(kByNumber, {std::string(wanted)});
-  search.Ask(kByNumberLike, {BeginsWith(wanted)});
+  for (const std::string& spelling : spellings) search.AskForNumber(spelling);
   // Whoever types a register number means it.
   if (search.FoundAny()) return search.Found();
-  search.AskForParties(wanted);
-  search.AskForMiddles(wanted);
+  for (const std::string& spelling : spellings) search.AskForParties(spelling);
+  for (const std::string& spelling : spellings) search.AskForMiddles(spelling);
   return search.Found();
 }
 

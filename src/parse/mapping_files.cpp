@@ -17,8 +17,8 @@ bool IsEntry(std::string_view line) {
   return !ShorterThan(line, 2) && !Contains(line, "°");
 }
 
-FileLineError LineError(ErrorNumber number, const std::filesystem::path& file, std::size_t number_of,
-                        std::string_view line, std::string_view advice) {
+FileLineError LineError(ErrorNumber number, const std::filesystem::path& file,
+                        std::size_t number_of, std::string_view line, std::string_view advice) {
   std::string where = "file \"" + file.filename().string() + "\", riga " +
                       std::to_string(number_of) + ", \"" + std::string(line) + "\". ";
   return {number, Describe(number, where.append(advice)), number_of};
@@ -45,10 +45,11 @@ std::string ReadMappingFile(const std::filesystem::path& file) {
   try {
     return ReadTextFile(file);
   } catch (const RunTimeError& error) {
-    throw FileLineError(error.code(),
-                        error.description() + " Il file di mappatura deve stare nella cartella del "
-                                              "programma: rimetterlo al suo posto.",
-                        0);
+    const std::string_view advice = error.code() == ErrorNumber::kFileNotFound
+                                        ? ". Il file di mappatura deve stare nella cartella del "
+                                          "programma: rimetterlo al suo posto."
+                                        : "";
+    throw FileLineError(error.code(), error.description() + std::string(advice), 0);
   }
 }
 

@@ -12,7 +12,11 @@ namespace ordex {
 class PageReader {
  public:
   // The lines are views into `text`. `trace` may be null.
-  PageReader(std::string_view text, ImportTrace* trace) : lines_(text), trace_(trace) {}
+  PageReader(std::string_view text, ImportTrace* trace)
+      : text_(text), lines_(text), trace_(trace) {}
+
+  // The whole page.
+  std::string_view text() const { return text_; }
 
   bool AtEnd() const { return !handedBack_ && lines_.AtEnd(); }
 
@@ -33,6 +37,7 @@ class PageReader {
   const PageLine& InWork() const { return inWork_; }
 
  private:
+  std::string_view text_;
   Lines lines_;
   ImportTrace* trace_;
   std::optional<PageLine> handedBack_;

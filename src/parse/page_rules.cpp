@@ -33,6 +33,17 @@ std::string_view Delimiter::Find() const {
   return *text;
 }
 
+bool Landmark::In(std::string_view line) {
+  const std::string_view wanted = text();
+  if (line.empty()) return wanted.empty();
+  const auto begin = static_cast<std::size_t>(line.data() - page_.data());
+  if (begin < searchedFrom_ || begin > next_) {
+    searchedFrom_ = begin;
+    next_ = page_.find(wanted, begin);
+  }
+  return next_ != std::string_view::npos && next_ + wanted.size() <= begin + line.size();
+}
+
 const std::string& FieldOf(const KeyedTable& cOrdexMap, std::string_view label) {
   const std::string* field = cOrdexMap.Lookup(label);
   if (field == nullptr) {
@@ -44,13 +55,11 @@ const std::string& FieldOf(const KeyedTable& cOrdexMap, std::string_view label) 
 }
 
 void StoreValue(KeyedTable& cDatiFasc, const std::string& NomeDb, std::string_view value) {
-  if (!cDatiFasc.Exists(NomeDb)) {
+  if (std::string* stored = cDatiFasc.MoveToEnd(NomeDb)) {
+    stored->append("; \r\n").append(value);
+  } else {
     cDatiFasc.Add(std::string(value), NomeDb);
-    return;
   }
-  std::string joined = cDatiFasc.Take(NomeDb);
-  joined.append("; \r\n").append(value);
-  cDatiFasc.Add(std::move(joined), NomeDb);
 }
 
 }  // namespace ordex

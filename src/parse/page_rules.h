@@ -52,6 +52,26 @@ class Delimiter {
   mutable std::optional<std::string_view> text_;
 };
 
+// A delimiter text that few lines of a page hold. It is searched for in the page as a whole, ahead
+// of the lines, so that asking of each line whether it holds the text costs next to nothing.
+class Landmark {
+ public:
+  Landmark(const KeyedTable& cDelimitatori, std::string_view key, std::string_view page)
+      : delimiter_(cDelimitatori, key), page_(page) {}
+
+  // Error: missing key.
+  std::string_view text() const { return delimiter_.text(); }
+  // Whether `line`, a part of the page, holds the text. Error: missing key.
+  bool In(std::string_view line);
+
+ private:
+  Delimiter delimiter_;
+  std::string_view page_;
+  // The text's first place at or behind `searchedFrom_`.
+  std::size_t searchedFrom_ = std::string_view::npos;
+  std::size_t next_ = 0;
+};
+
 // The database field that a label fills. Error: missing key, naming "MapCampi.txt".
 const std::string& FieldOf(const KeyedTable& cOrdexMap, std::string_view label);
 

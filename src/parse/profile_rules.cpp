@@ -1,4 +1,5 @@
 // The rules of the case-file profile page.
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -22,28 +23,28 @@ class ProfileRules : public PageRules {
         page_(context.page),
         sink_(context.sink),
         reader_(context.reader),
-        delimiters_(context.mappings.cDelimitatori) {}
+        delimiters_(context.mappings.cDelimitatori, context.reader.text()) {}
 
   AfterLine Apply(PageLine szRiga) override {
-    if (Contains(szRiga.text, delimiters_.caseNumber.text())) {
+    if (delimiters_.caseNumber.In(szRiga.text)) {
       TakeCaseNumber(szRiga);
       return AfterLine::kReadOn;
     }
     if (ShorterThan(szRiga.text, 2)) return AfterLine::kReadOn;
-    if (Contains(szRiga.text, delimiters_.deadlines.text())) TakeDeadlines(szRiga);
-    if (Contains(szRiga.text, delimiters_.deposit.text())) szRiga = TakeDepositDate(szRiga);
+    if (delimiters_.deadlines.In(szRiga.text)) TakeDeadlines(szRiga);
+    if (delimiters_.deposit.In(szRiga.text)) szRiga = TakeDepositDate(szRiga);
     TakeField(szRiga);
     return AfterLine::kReadOn;
   }
 
  private:
   struct Delimiters {
-    explicit Delimiters(const KeyedTable& table)
-        : caseNumber(table, "DELPF1"),
+    Delimiters(const KeyedTable& table, std::string_view page)
+        : caseNumber(table, "DELPF1", page),
           separator(table, "DELPF2"),
           counsel(table, "DELPF3"),
-          deadlines(table, "DELPF4"),
-          deposit(table, "DELPF6"),
+          deadlines(table, "DELPF4", page),
+          deposit(table, "DELPF6", page),
           plaintiff(table, "TESTO1"),
           plaintiffToo(table, "DELPF7"),
           defendant(table, "TESTO2"),
@@ -51,11 +52,11 @@ class ProfileRules : public PageRules {
           furtherParty(table, "TESTO3"),
           furtherPartyToo(table, "TESTO4") {}
 
-    Delimiter caseNumber;
+    Landmark caseNumber;
     Delimiter separator;
     Delimiter counsel;
-    Delimiter deadlines;
-    Delimiter deposit;
+    Landmark deadlines;
+    Landmark deposit;
     Delimiter plaintiff;
     Delimiter plaintiffToo;
     Delimiter defendant;
@@ -74,13 +75,17 @@ class ProfileRules : public PageRules {
     page_.cDatiFasc.Add(std::string(value), field);
   }
 
-  // The label and the value of a line. Error: subscript, where the separator is missing.
-  Halves LabelAndValue(std::string_view line) const {
-    const auto halves = SplitOnce(line, delimiters_.separator.text());
+  // The line's label and value, nullopt where it has no separator.
+  std::optional<Halves> Cut(std::string_view line) const {
+    return SplitOnce(line, delimiters_.separator.text());
+  }
+
+  // Error: subscript, where the separator was missing.
+  const Halves& LabelAndValue(const std::optional<Halves>& halves) const {
     if (!halves) {
-      throw MakeError(ErrorNumber::kSubscript,
-                      "nella riga manca il separatore \"" +
-                          std::string(delimiters_.separator.text()) + "\" tra etichetta e valore");
+      throw MakeError(ErrorNumber::kSubscript, "nella riga manca il separatore \"" +
+                                                   std::string(delimiters_.separator.text()) +
+                                                   "\" tra etichetta e valore");
     }
     return *halves;
   }
@@ -91,7 +96,7 @@ class ProfileRules : public PageRules {
     PageLine line = reader_.Next();
     while (!line.text.empty()) {
       reader_.Taken(line, "scadenza");
-      const Halves halves = LabelAndValue(line.text);
+      const Halves halves = LabelAndValue(Cut(line.text));
       sink_.WriteListView("", halves.left, Trim(halves.right), "", kDeadlineTag);
       line = reader_.Next();
     }
@@ -104,17 +109,19 @@ class ProfileRules : public PageRules {
     reader_.Taken(szRiga, "deposito");
     const PageLine line = reader_.Next();
     reader_.Taken(line, "data deposito");
-    sink_.WriteListView("", kDepositLabel, Trim(LabelAndValue(line.text).right), "", "");
+    sink_.WriteListView("", kDepositLabel, Trim(LabelAndValue(Cut(line.text)).right), "", "");
     return reader_.Next();
   }
 
   void TakeField(const PageLine& szRiga) {
-    const auto halves = SplitOnce(Trim(szRiga.text), delimiters_.separator.text());
-    const std::string_view label = Trim(halves ? halves->left : szRiga.text);
+    // Not trimmed yet where a rule has read on.
+    const std::string_view line = Trim(szRiga.text);
+    const auto halves = Cut(line);
+    const std::string_view label = Trim(halves ? halves->left : line);
     const std::string* field = cOrdexMap_.Lookup(label);
     if (field == nullptr) return;
     reader_.Taken(szRiga, "campo");
-    std::string_view value = LabelAndValue(szRiga.text).right;
+    std::string_view value = LabelAndValue(halves).right;
     TakeParty(label, value);
     std::string hearing;
     if (label == kNextHearing || label == kLastHearing) {

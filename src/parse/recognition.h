@@ -15,7 +15,8 @@ std::string ClipboardText(const Clipboard& clipboard);
 
 // Sets `iOrdexPage` to the position of the first recognition text that the clipboard's text holds,
 // letter case ignored. Where there is none, tells the user, clears the clipboard and returns false:
-// the program must end.
+// the program must end. Errors: overflow, where the position is no 16-bit integer; on a history
+// page those of LoadDelimitatori.
 bool RiconosciPagina(Mappings& mappings, Page& page, HistoryPaging& paging, Clipboard& clipboard,
                      MessageBoxes& boxes);
 

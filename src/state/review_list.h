@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "state/controls.h"
+#include "state/review_rows.h"
 
 namespace ordex {
 
@@ -18,12 +19,6 @@ inline constexpr int kPointerCustom = 99;
 
 enum class SortOrder { kAscending, kDescending };
 
-struct ReviewRow {
-  std::string text;                // ValueItem, column 1
-  std::array<std::string, 3> sub;  // the sub-items, columns 2 to 4
-  std::string tag;
-};
-
 // lstImport. A row's index is its place when it was added, counted from 1; sorting changes only
 // `order`, so that an index kept elsewhere still names its row.
 struct ReviewList {
@@ -31,7 +26,7 @@ struct ReviewList {
   std::array<Column, 4> columns = {Column{"NomeDb", 1500}, Column{"Descrizione", 5000},
                                    Column{"Valore", kListWidth - 1500 - 5000 - 350},
                                    Column{"Pagina", 0}};
-  std::vector<ReviewRow> rows;
+  ReviewRows rows;
   std::vector<std::uint32_t> order;  // places in `rows`, in the order shown
   std::string toolTip;
   std::string tag = "1";  // the column sorted last, as decimal text; must start as a number

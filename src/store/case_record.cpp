@@ -87,7 +87,8 @@ bool RegistraPratica(const CaseRecordTask& task, std::int32_t idPra) {
 std::int32_t CalcolaNumPos(const Database& database) {
   DbRecord record;
   record.Open(database, "SELECT MAX(NumPos) AS PosMax FROM Pratica", kForChanges);
-  return AsInt32(record.Get("PosMax")) + 1;
+  // In 64 bits, so that behind the last number there is an overflow to report.
+  return AsInt32(std::int64_t{AsInt32(record.Get("PosMax"))} + 1);
 }
 
 }  // namespace ordex

@@ -33,7 +33,7 @@ struct CaseRecordTask {
 bool RegistraPratica(const CaseRecordTask& task, std::int32_t idPra);
 
 // The position number of the next case. Errors: invalid use of Null, where there is no case at
-// all; of the database.
+// all; overflow; of the database.
 std::int32_t CalcolaNumPos(const Database& database);
 
 }  // namespace ordex

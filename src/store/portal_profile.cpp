@@ -52,7 +52,7 @@ void WriteDeadlines(const ReviewList& lstImport, HearingAgenda& agenda) {
   std::set<std::size_t> written;
   for (const std::size_t index : lstImport.taggedRows) {
     if (index > lstImport.rows.size()) continue;
-    const ReviewRow& row = lstImport.rows[index - 1];
+    const ReviewRow row = lstImport.rows[index - 1];
     if (row.tag.empty() || !written.insert(index).second) continue;
     agenda.ScriviScadenza(row.sub[1], row.sub[0]);
   }

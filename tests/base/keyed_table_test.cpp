@@ -212,6 +212,30 @@ TEST(KeyedTable, AnEntryRemovedAndAddedAgainStandsAtTheEnd) {
                                          Pair("prima", "uno; altro")));
 }
 
+TEST(KeyedTable, AnEntryMovedToTheEndKeepsItsKeyAndItsValueCanBeBuiltOn) {
+  KeyedTable table = ThreeSections();
+  std::string* value = table.MoveToEnd("PRIMA");
+  ASSERT_NE(value, nullptr);
+  value->append("; altro");
+  EXPECT_THAT(Listed(table), ElementsAre(Pair("Seconda", "due"), Pair("Terza", "tre"),
+                                         Pair("Prima", "uno; altro")));
+  EXPECT_EQ(table.Item("prima"), "uno; altro");
+  EXPECT_EQ(table.Count(), 3U);
+}
+
+TEST(KeyedTable, MovingTheLastEntryToTheEndLeavesItThere) {
+  KeyedTable table = ThreeSections();
+  EXPECT_EQ(*table.MoveToEnd("Terza"), "tre");
+  EXPECT_THAT(Listed(table),
+              ElementsAre(Pair("Prima", "uno"), Pair("Seconda", "due"), Pair("Terza", "tre")));
+}
+
+TEST(KeyedTable, MovingAnAbsentKeyToTheEndGivesNullAndChangesNothing) {
+  KeyedTable table = ThreeSections();
+  EXPECT_EQ(table.MoveToEnd("Quarta"), nullptr);
+  EXPECT_EQ(table.Count(), 3U);
+}
+
 TEST(KeyedTable, AnEntryOfTheTableMayBeNamedByItsOwnKey) {
   KeyedTable table = ThreeSections();
   EXPECT_EQ(table.Take(table.At(2).key), "due");
@@ -256,6 +280,31 @@ TEST(KeyedTable, ACopyIsIndependent) {
   EXPECT_EQ(table.Item("Prima"), "uno");
   EXPECT_FALSE(table.Exists("Quarta"));
   EXPECT_EQ(copy.Item("seconda"), "due");
+}
+
+TEST(KeyedTable, ATableAssignedFromAnotherOutlivesIt) {
+  KeyedTable copy;
+  copy.Add("vecchio", "Vecchia");
+  {
+    const KeyedTable table = ThreeSections();
+    copy = table;
+  }
+  EXPECT_FALSE(copy.Exists("Vecchia"));
+  EXPECT_EQ(*copy.MoveToEnd("PRIMA"), "uno");
+  EXPECT_EQ(copy.Take("seconda"), "due");
+  EXPECT_THAT(Listed(copy), ElementsAre(Pair("Terza", "tre"), Pair("Prima", "uno")));
+}
+
+TEST(KeyedTable, AMovedTableKeepsItsEntriesAndTakesNewOnes) {
+  KeyedTable table = ThreeSections();
+  KeyedTable moved = std::move(table);
+  moved.Add("quattro", "Quarta");
+  moved.Remove("PRIMA");
+  EXPECT_THAT(Listed(moved),
+              ElementsAre(Pair("Seconda", "due"), Pair("Terza", "tre"), Pair("Quarta", "quattro")));
+  moved = ThreeSections();
+  EXPECT_EQ(moved.Item("prima"), "uno");
+  EXPECT_FALSE(moved.Exists("Quarta"));
 }
 
 TEST(KeyedTable, AClearedTableIsEmptyAndUsable) {
@@ -340,23 +389,36 @@ void TakeFromBoth(KeyedTable& table, Model& model, std::size_t key, const std::s
   model.entries.erase(place);
 }
 
+void MoveInBoth(KeyedTable& table, Model& model, std::size_t key, const std::string& spelling) {
+  const auto place = model.Place(key);
+  std::string* value = table.MoveToEnd(spelling);
+  ASSERT_EQ(value != nullptr, place != model.entries.end());
+  if (value == nullptr) return;
+  ASSERT_EQ(*value, place->value);
+  *value += "+";
+  place->value += "+";
+  std::rotate(place, place + 1, model.entries.end());
+}
+
 TEST(KeyedTableProperties, BehavesLikeAListSearchedFromItsStart) {
   std::mt19937 random(7);
   const auto below = [&](std::size_t limit) {
     return std::uniform_int_distribution<std::size_t>(0, limit - 1)(random);
   };
-  for (int run = 0; run < 40; ++run) {
+  for (int run = 0; run < 20; ++run) {
     KeyedTable table;
     Model model;
-    for (int step = 0; step < 100; ++step) {
+    for (int step = 0; step < 300; ++step) {
       const std::size_t key = below(ModelKeys().size());
       const std::string& spelling = ModelKeys()[key][below(kSpellings)];
       const std::string value = std::to_string(run) + "." + std::to_string(step);
       const std::size_t act = below(10);
       if (act == 0) {
         AddToBoth(table, model, std::nullopt, "", value);
-      } else if (act < 6) {
+      } else if (act < 4) {
         AddToBoth(table, model, key, spelling, value);
+      } else if (act < 8) {
+        MoveInBoth(table, model, key, spelling);
       } else {
         TakeFromBoth(table, model, key, spelling);
       }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <set>
+#include <vector>
 
 #include "base/text.h"
 #include "base/text_file.h"
@@ -17,6 +18,7 @@ using testing::ElementsAre;
 
 std::vector<std::string> Names(const std::vector<ColumnInfo>& columns) {
   std::vector<std::string> names;
+  names.reserve(columns.size());
   for (const ColumnInfo& column : columns) names.push_back(column.name);
   return names;
 }
@@ -149,10 +151,11 @@ TEST(EmbeddedTables, WritesAreDurableAndNoForeignKeysAreEnforced) {
 
 TEST(EmbeddedTables, TheLookUpsUseTheirIndexes) {
   DbOffice office;
-  const struct {
+  struct Case {
     const char* select;
     const char* index;
-  } cases[] = {
+  };
+  const std::vector<Case> cases = {
       {"SELECT ID_Pra FROM Pratica WHERE NumeroRegGenerale = '1'", "Pratica_NumeroRegGenerale "},
       {"SELECT ID_Pra FROM Pratica WHERE NumeroRegGenerale LIKE '12%'",
        "Pratica_NumeroRegGenerale_Cerca"},

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <limits>
+#include <vector>
 
 #include "store/db/db_record.h"
 #include "support/db_raised.h"
@@ -97,11 +98,12 @@ TEST(FitToColumn, WhatIsNoWholeNumberIsAMismatchThatNamesValueAndColumn) {
 }
 
 TEST(FitToColumn, TheWidthOfAnIntegerColumnIsItsRange) {
-  const struct {
+  struct Case {
     std::size_t width;
     std::int64_t least;
     std::int64_t most;
-  } cases[] = {{1, 0, 255}, {2, -32768, 32767}, {4, -2147483648, 2147483647}};
+  };
+  const std::vector<Case> cases = {{1, 0, 255}, {2, -32768, 32767}, {4, -2147483648, 2147483647}};
   for (const auto& each : cases) {
     const ColumnInfo column = Column(ColumnType::kInteger, each.width);
     EXPECT_EQ(FitToColumn(Whole(each.least), column), Whole(each.least));

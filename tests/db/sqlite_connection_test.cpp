@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
-#include <sys/stat.h>
 
 #include <fstream>
+#include <vector>
 
 #include "connection_contract.h"
 #include "store/db/sqlite_catalog.h"
@@ -62,12 +62,6 @@ TEST_F(SqliteOpenTest, AnEmptyFileIsNoDatabase) {
             Error("il file non è un database; controllare il nome del file nelle impostazioni"));
 }
 
-TEST_F(SqliteOpenTest, APipeIsNoDatabaseAndIsNotWaitedFor) {
-  ASSERT_EQ(mkfifo(file_.c_str(), 0600), 0);
-  EXPECT_EQ(Opening(),
-            Error("il file non è un database; controllare il nome del file nelle impostazioni"));
-}
-
 TEST_F(SqliteOpenTest, AFileInAFolderThatDoesNotExistIsAbsent) {
   file_ = folder_ / "manca" / "studio.db";
   EXPECT_EQ(Opening(), Error("il file non esiste; controllare il nome nelle impostazioni"));
@@ -95,30 +89,31 @@ TEST_F(SqliteOpenTest, ADamagedDatabaseIsToldWhenItIsRead) {
 // --- declared types -----------------------------------------------------------------------------
 
 TEST(ParseDeclaredType, EveryDeclarationOfTheOfficesTablesIsKnown) {
-  const struct {
+  struct Case {
     const char* declared;
     ColumnType type;
     std::size_t size;
-  } cases[] = {{"BIT", ColumnType::kBit, 0},
-               {"boolean", ColumnType::kBit, 0},
-               {"DATE", ColumnType::kDate, 0},
-               {"DATETIME", ColumnType::kDate, 0},
-               {"SMALLDATETIME", ColumnType::kDate, 0},
-               {"datetime2(7)", ColumnType::kDate, 0},
-               {"TINYINT", ColumnType::kInteger, 1},
-               {"SMALLINT", ColumnType::kInteger, 2},
-               {"INT", ColumnType::kInteger, 4},
-               {"INTEGER", ColumnType::kInteger, 4},
-               {"BIGINT", ColumnType::kInteger, 8},
-               {"FLOAT", ColumnType::kReal, 0},
-               {"REAL", ColumnType::kReal, 0},
-               {"DOUBLE PRECISION", ColumnType::kReal, 0},
-               {"MONEY", ColumnType::kReal, 0},
-               {"NVARCHAR(200)", ColumnType::kText, 200},
-               {"varchar ( 30 )", ColumnType::kText, 30},
-               {"NVARCHAR(MAX)", ColumnType::kText, 0},
-               {"NVARCHAR(", ColumnType::kText, 0},
-               {"TEXT", ColumnType::kText, 0}};
+  };
+  const std::vector<Case> cases = {{"BIT", ColumnType::kBit, 0},
+                                   {"boolean", ColumnType::kBit, 0},
+                                   {"DATE", ColumnType::kDate, 0},
+                                   {"DATETIME", ColumnType::kDate, 0},
+                                   {"SMALLDATETIME", ColumnType::kDate, 0},
+                                   {"datetime2(7)", ColumnType::kDate, 0},
+                                   {"TINYINT", ColumnType::kInteger, 1},
+                                   {"SMALLINT", ColumnType::kInteger, 2},
+                                   {"INT", ColumnType::kInteger, 4},
+                                   {"INTEGER", ColumnType::kInteger, 4},
+                                   {"BIGINT", ColumnType::kInteger, 8},
+                                   {"FLOAT", ColumnType::kReal, 0},
+                                   {"REAL", ColumnType::kReal, 0},
+                                   {"DOUBLE PRECISION", ColumnType::kReal, 0},
+                                   {"MONEY", ColumnType::kReal, 0},
+                                   {"NVARCHAR(200)", ColumnType::kText, 200},
+                                   {"varchar ( 30 )", ColumnType::kText, 30},
+                                   {"NVARCHAR(MAX)", ColumnType::kText, 0},
+                                   {"NVARCHAR(", ColumnType::kText, 0},
+                                   {"TEXT", ColumnType::kText, 0}};
   for (const auto& each : cases) {
     const auto type = ParseDeclaredType(each.declared);
     ASSERT_TRUE(type) << each.declared;

@@ -2,14 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace ordex {
 namespace {
 
 TEST(SqliteErrorText, EveryKindOfFailureSaysWhatToDo) {
-  const struct {
+  struct Case {
     int code;
     const char* text;
-  } cases[] = {
+  };
+  const std::vector<Case> cases = {
       {SQLITE_BUSY, "il database è bloccato da un altro programma; riprovare tra poco"},
       {SQLITE_LOCKED, "il database è bloccato da un altro programma; riprovare tra poco"},
       {SQLITE_READONLY,

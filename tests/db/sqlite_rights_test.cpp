@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <functional>
 #include <string>
 
@@ -21,8 +22,8 @@ constexpr uid_t kNobody = 65534;
 // the description of the error that `call` raises; empty where it raises none.
 std::string ErrorOfUnprivileged(const std::function<void()>& call) {
   if (geteuid() != 0) return DbRaisedBy(call).description;
-  int ends[2] = {};
-  if (pipe(ends) != 0) return "no pipe";
+  std::array<int, 2> ends{};
+  if (pipe(ends.data()) != 0) return "no pipe";
   const pid_t child = fork();
   if (child == 0) {
     std::string told = "cannot become another user";
@@ -34,10 +35,10 @@ std::string ErrorOfUnprivileged(const std::function<void()>& call) {
   }
   close(ends[1]);
   std::string told;
-  char buffer[512];
+  std::array<char, 512> buffer{};
   ssize_t length = 0;
-  while ((length = read(ends[0], buffer, sizeof buffer)) > 0) {
-    told.append(buffer, static_cast<std::size_t>(length));
+  while ((length = read(ends[0], buffer.data(), buffer.size())) > 0) {
+    told.append(buffer.data(), static_cast<std::size_t>(length));
   }
   close(ends[0]);
   int status = 0;
@@ -118,6 +119,25 @@ TEST_F(SqliteRightsTest, AFolderThatMayNotBeEnteredIsNotTakenForAnAbsentFile) {
   EXPECT_EQ(ErrorOfUnprivileged([&] { Read(); }),
             OpenError("il file del database, o un file di lavoro accanto ad esso, non si può "
                       "aprire; controllare i diritti sul file e sulla sua cartella"));
+}
+
+TEST_F(SqliteRightsTest, APipeIsNoDatabaseAndIsNotWaitedFor) {
+  file_ = folder_ / "tubo";
+  ASSERT_EQ(mkfifo(file_.c_str(), 0600), 0);
+  EXPECT_EQ(DbRaisedBy([&] { Read(); }).description,
+            OpenError("il file non è un database; controllare il nome del file nelle "
+                      "impostazioni"));
+}
+
+TEST_F(SqliteRightsTest, AFileWithALogThatMayNotBeReadIsNotReadWithoutIt) {
+  // The log holds what the file does not hold yet.
+  const auto writer = OpenSqlite(file_);
+  writer->Insert("Utenti", std::vector<NamedValue>{{"NomeUtente", std::string("NUOVO")}});
+  Rights(file_, 0444);
+  Rights(std::filesystem::path(file_).concat("-wal"), 0);
+  Rights(std::filesystem::path(file_).concat("-shm"), 0);
+  Rights(folder_.path(), 0555);
+  EXPECT_NE(ErrorOfUnprivileged([&] { Read(); }), "");
 }
 
 TEST_F(SqliteRightsTest, ANewDatabaseInAReadOnlyFolderIsAnErrorAndLeavesNothing) {

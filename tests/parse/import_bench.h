@@ -144,6 +144,13 @@ class ImportBench {
     return StopOf(Import({folder.path(), mappings, page, paging, sink, &trace}, stem, kind));
   }
 
+  // Drops all that earlier imports left; the folder and the field map stay.
+  void Forget() {
+    page = {};
+    sink = {};
+    trace = {};
+  }
+
   NamedValues Values() const { return ValuesOf(page.cDatiFasc); }
 
   TempFolder folder;

@@ -155,8 +155,8 @@ TEST(Deadlines, TheRowsBehindTheBlockAreOfTheHeadingAgain) {
 TEST(Deadlines, AHeadingThatIsAMappedLabelWithoutTheSeparatorFailsAfterTheBlockAtItsOwnLine) {
   ImportBench bench;
   bench.Fields("Termini=Termini assegnati\n");
-  EXPECT_EQ(bench.Run({"Stanza: 3", " Termini assegnati", "A: 1", "", "Stanza: 4"}),
-            StopInPage(9, kNoSeparator, 2, " Termini assegnati"));
+  EXPECT_EQ(bench.Run({"Stanza: 3", "Termini assegnati", "A: 1", "", "Stanza: 4"}),
+            StopInPage(9, kNoSeparator, 2, "Termini assegnati"));
   EXPECT_EQ(bench.sink.rows, Rows{DeadlineRow("A", "1")});
   EXPECT_EQ(bench.trace.lines.size(), 4U);
 }

@@ -20,7 +20,7 @@ std::string DelimitersWithout(const std::string& key) {
 
 std::string MissingText(const std::string& key) {
   return "Chiave non trovata: \"" + key +
-         "\" manca nel file \"MapDelimitatori.txt\": aggiungere la riga testo=" + key;
+         R"(" manca nel file "MapDelimitatori.txt": aggiungere la riga testo=)" + key;
 }
 
 Stop RunWithout(ImportBench& bench, const std::string& key, const std::vector<std::string>& lines) {

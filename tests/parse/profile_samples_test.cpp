@@ -1,6 +1,7 @@
 // The sample profiles, imported with the shipped mapping files.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -151,6 +152,7 @@ std::vector<std::string> ProfileSamples() {
     const std::string name = entry.path().stem().string();
     if (name.starts_with("profilo-")) names.push_back(name);
   }
+  std::sort(names.begin(), names.end());
   return names;
 }
 

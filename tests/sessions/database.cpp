@@ -85,6 +85,7 @@ std::vector<std::string> Rows(sqlite3* database, const std::string& select) {
 void MakeDatabase(const fs::path& file, const std::vector<fs::path>& sqlFiles) {
   const Handle database = Open(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
   Execute(database.get(), "PRAGMA journal_mode=WAL");
+  Execute(database.get(), "PRAGMA synchronous=OFF");
   Execute(database.get(), "BEGIN");
   for (const fs::path& sql : sqlFiles) Execute(database.get(), ReadFile(sql));
   Execute(database.get(), "COMMIT");

@@ -174,9 +174,9 @@ void RequireOrder(const std::vector<Step>& steps) {
 
 std::string Step::BlockText() const {
   std::string text;
-  for (const std::string& line : block) {
-    if (&line != &block.front()) text.push_back('\n');
-    text.append(line);
+  for (const std::string& one : block) {
+    if (&one != &block.front()) text.push_back('\n');
+    text.append(one);
   }
   return text;
 }

@@ -30,6 +30,8 @@ class DbTemporaryFolder {
   }
   DbTemporaryFolder(const DbTemporaryFolder&) = delete;
   DbTemporaryFolder& operator=(const DbTemporaryFolder&) = delete;
+  DbTemporaryFolder(DbTemporaryFolder&&) = delete;
+  DbTemporaryFolder& operator=(DbTemporaryFolder&&) = delete;
 
   const std::filesystem::path& path() const { return path_; }
   std::filesystem::path operator/(const std::filesystem::path& name) const { return path_ / name; }

@@ -2,6 +2,7 @@
 // asked of it.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <deque>
 #include <functional>
@@ -25,8 +26,8 @@ inline bool operator==(const BoxText& a, const BoxText& b) {
 }
 
 inline std::ostream& operator<<(std::ostream& out, const BoxText& box) {
-  constexpr std::string_view kIcons[] = {"information", "warning", "question", "stop"};
-  return out << "[" << box.title << " | " << kIcons[static_cast<std::size_t>(box.icon)] << " | "
+  constexpr std::array<std::string_view, 4> kIcons = {"information", "warning", "question", "stop"};
+  return out << "[" << box.title << " | " << kIcons.at(static_cast<std::size_t>(box.icon)) << " | "
              << (box.buttons == BoxButtons::kYesNo ? "yes/no" : "ok") << "] " << box.text;
 }
 

@@ -1,5 +1,6 @@
 #include "store/db/connection_string.h"
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -62,10 +63,10 @@ ConnectionString::ConnectionString(std::string_view text) {
 }
 
 std::string ConnectionString::Value(std::string_view name) const {
-  for (auto key = keys_.rbegin(); key != keys_.rend(); ++key) {
-    if (EqualIgnoringCase(key->name, name)) return key->value;
-  }
-  return {};
+  const auto key = std::find_if(keys_.rbegin(), keys_.rend(), [&](const ConnectionKey& each) {
+    return EqualIgnoringCase(each.name, name);
+  });
+  return key == keys_.rend() ? std::string() : key->value;
 }
 
 }  // namespace ordex

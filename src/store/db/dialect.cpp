@@ -24,8 +24,8 @@ enum class CharClass : unsigned char { kSymbol, kBlank, kWord, kDigit };
 
 constexpr std::array<CharClass, 256> MakeCharClasses() {
   std::array<CharClass, 256> classes{};
-  for (const unsigned char blank : {' ', '\t', '\n', '\r', '\f', '\v'}) {
-    classes.at(blank) = CharClass::kBlank;
+  for (const char blank : {' ', '\t', '\n', '\r', '\f', '\v'}) {
+    classes.at(static_cast<unsigned char>(blank)) = CharClass::kBlank;
   }
   for (std::size_t i = '0'; i <= '9'; ++i) classes.at(i) = CharClass::kDigit;
   for (std::size_t i = 'A'; i <= 'Z'; ++i) classes.at(i) = CharClass::kWord;

@@ -49,6 +49,8 @@ class ResetLater {
   ~ResetLater() { statement_.Reset(); }
   ResetLater(const ResetLater&) = delete;
   ResetLater& operator=(const ResetLater&) = delete;
+  ResetLater(ResetLater&&) = delete;
+  ResetLater& operator=(ResetLater&&) = delete;
 
  private:
   SqliteStatement& statement_;

@@ -195,7 +195,7 @@ bool Session::ClickColumn(std::string_view number) {
 }
 
 bool Session::ClickRow(std::string_view number) {
-  const std::ptrdiff_t count = State().lstImport.visible ? std::ssize(State().lstImport.rows)
+  const std::ptrdiff_t count = State().lstImport.visible ? static_cast<std::ptrdiff_t>(State().lstImport.rows.size())
                                                          : std::ssize(State().lstAgendaAvv.rows);
   const auto row = NumberWithin(number, 1, count);
   if (!row) return false;

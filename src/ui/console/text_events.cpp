@@ -64,10 +64,10 @@ Table ReviewTable(const ReviewList& list) {
   table.headers.emplace_back("#");
   for (const std::size_t column : shown) table.headers.push_back(list.columns[column].header);
   for (std::size_t place = 0; place < list.order.size(); ++place) {
-    const ReviewRow& row = list.rows[list.order[place]];
+    const ReviewRow row = list.rows[list.order[place]];
     std::vector<std::string> cells = {std::to_string(place + 1)};
     for (const std::size_t column : shown) {
-      cells.push_back(column == 0 ? row.text : row.sub[column - 1]);
+      cells.emplace_back(column == 0 ? row.text : row.sub[column - 1]);
     }
     table.rows.push_back(std::move(cells));
   }

@@ -1,0 +1,37 @@
+// One run of the console: its commands, what it printed, how it ended.
+#pragma once
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+#include "json_match.h"
+#include "workplace.h"
+
+namespace ordex::sessions {
+
+inline constexpr std::chrono::seconds kTimeLimit{60};
+
+struct RunTask {
+  std::vector<std::string> program;    // the console, with what stands in front of it
+  std::vector<std::string> arguments;  // in place of the usual ones, where there are any
+  std::vector<std::string> options;    // besides the usual arguments
+  std::string now;
+  // A line "!sql TEXT" is none of the console's: at this place another program changes the database.
+  std::vector<std::string> commands;
+  bool asNobody = false;
+  std::chrono::milliseconds lock{0};  // so long another program holds the database
+  std::chrono::seconds timeLimit = kTimeLimit;
+};
+
+struct RunOutcome {
+  int exitCode = 0;
+  bool timedOut = false;
+  std::vector<Json> events;
+  std::string fault;       // what is wrong with the output itself; empty where nothing is
+  std::string transcript;  // everything, for whoever reads of a failure
+};
+
+RunOutcome RunConsole(const RunTask& task, const Workplace& workplace);
+
+}  // namespace ordex::sessions
