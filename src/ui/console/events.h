@@ -22,6 +22,8 @@ class Events {
  public:
   virtual ~Events() = default;
 
+  // A command was read from a script.
+  virtual void Command(std::string_view text) = 0;
   virtual void State(const Window& window) = 0;
   // A box has come up; its answer is not known yet.
   virtual void BoxUp(const BoxText& box) = 0;

@@ -11,6 +11,7 @@ class JsonEvents : public Events {
  public:
   explicit JsonEvents(std::ostream& out) : out_(out) {}
 
+  void Command(std::string_view) override {}
   void State(const Window& window) override;
   void BoxUp(const BoxText&) override {}
   void Message(const BoxText& box, BoxAnswer answer) override;

@@ -82,9 +82,11 @@ void Session::RunCommands() {
 }
 
 void Session::Carry(const Command& command, const std::function<bool(const Command&)>& act) {
+  const std::string line = command.verb + " " + command.rest;
+  const std::string_view text = Trim(line);
+  if (!commands_.Interactive()) events_.Command(text);
   if (ActAnywhere(command) || act(command)) return;
-  const std::string text = std::string(Trim(command.verb + " " + command.rest));
-  if (!commands_.Interactive()) throw Misfit{command.line, text};
+  if (!commands_.Interactive()) throw Misfit{command.line, std::string(text)};
   if (!text.empty()) {
     std::cerr << "\"" << text << "\" qui non si può eseguire. \"aiuto\" elenca i comandi.\n";
   }

@@ -1,5 +1,6 @@
 #include "ui/console/text_events.h"
 
+#include <algorithm>
 #include <string>
 
 #include "base/text.h"
@@ -96,6 +97,10 @@ std::string_view Ending(EndReason reason) {
 
 }  // namespace
 
+void TextEvents::Command(std::string_view text) {
+  out_ << "> " << text << std::endl;
+}
+
 void TextEvents::State(const Window& window) {
   const Commands& commands = window.commands;
   out_ << "\n" << window.frmMain.caption << "\n\n";
@@ -123,9 +128,15 @@ void TextEvents::Message(const BoxText& box, BoxAnswer answer) {
 
 void TextEvents::Dialog(std::string_view, bool open, const ControlTexts& texts) {
   if (!open) return;
-  out_ << "\n";
-  for (const auto& [control, text] : texts) {
-    if (!text.empty()) out_ << ReplaceAll(text, "\r\n", "\n") << "\n";
+  const auto text = [&texts](std::string_view control) {
+    const auto found = std::find_if(texts.begin(), texts.end(),
+                                    [&](const auto& pair) { return pair.first == control; });
+    return found == texts.end() ? std::string{} : ReplaceAll(found->second, "\r\n", "\n");
+  };
+  out_ << "\n── " << Trim(text("caption")) << " ──\n" << text("lblInfo") << "\n";
+  if (!text("lblInfo2").empty()) out_ << text("Label1") << text("lblInfo2") << "\n";
+  if (!text("lblDomanda").empty()) {
+    out_ << "\n" << text("lblDomanda") << "\n[Sì: click cmdSi] [No: click cmdNo]\n";
   }
   out_ << std::flush;
 }

@@ -11,6 +11,7 @@ class TextEvents : public Events {
  public:
   explicit TextEvents(std::ostream& out) : out_(out) {}
 
+  void Command(std::string_view text) override;
   void State(const Window& window) override;
   void BoxUp(const BoxText& box) override;
   void Message(const BoxText& box, BoxAnswer answer) override;
