@@ -158,6 +158,7 @@ RunOutcome RunConsole(const RunTask& task, const Workplace& workplace) {
   if (HoldsOwnCommands(task)) Feed(task, workplace, console);
   console.Finish();
   lock.reset();
+  workplace.LookInto();
 
   RunOutcome outcome;
   outcome.exitCode = console.exitCode();

@@ -54,7 +54,6 @@ constexpr std::array kKeywords = {
     Keyword{"sql-texts", Form::kBlock, Place::kAfterRun},
     Keyword{"types", Form::kArgumentAndBlock, Place::kAfterRun},
     Keyword{"setting", Form::kArgument, Place::kAfterRun},
-    Keyword{"settings-are", Form::kBlock, Place::kAfterRun},
     Keyword{"present", Form::kArgument, Place::kAfterRun},
     Keyword{"absent", Form::kArgument, Place::kAfterRun},
     Keyword{"query", Form::kArgument, Place::kAfterRun},

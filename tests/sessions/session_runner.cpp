@@ -84,7 +84,6 @@ class Runner {
         {"sql-texts", &Runner::SqlTexts},
         {"types", &Runner::Types},
         {"setting", &Runner::Setting},
-        {"settings-are", &Runner::SettingsAre},
         {"present", &Runner::Present},
         {"absent", &Runner::Absent},
         {"database-unchanged", &Runner::DatabaseUnchanged},
@@ -284,11 +283,6 @@ class Runner {
     const std::optional<std::string> found = workplace_.Setting(words[0], words[1]);
     if (found == words[2] || (!found && words[2] == "absent")) return;
     Fail(step, "the setting is " + (found ? "\"" + *found + "\"" : std::string("absent")));
-  }
-
-  void SettingsAre(const Step& step) {
-    const std::string found = ReadFile(workplace_.settings());
-    if (found != step.BlockText() + "\n") Fail(step, "the settings are\n" + found);
   }
 
   bool IsInOffice(const std::string& pattern) const {

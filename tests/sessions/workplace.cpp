@@ -114,6 +114,12 @@ void Workplace::Prepare(bool forNobody) const {
   }
 }
 
+void Workplace::LookInto() const {
+  for (const fs::path& path : readOnly_) {
+    fs::permissions(path, fs::perms::owner_write, fs::perm_options::add);
+  }
+}
+
 void Workplace::OpenToAll() const {
   fs::permissions(folder(), fs::perms::all);
   for (const auto& entry : fs::recursive_directory_iterator(folder())) {
@@ -125,7 +131,7 @@ std::set<std::string> Workplace::Leftovers() const {
   std::set<std::string> names;
   for (const auto& entry : fs::directory_iterator(office())) {
     const std::string name = entry.path().filename().string();
-    const bool expected = IsMapping(name) || name.starts_with(databaseName_) ||
+    const bool expected = IsMapping(name) || name.find(".db") != std::string::npos ||
                           ownFiles_.contains(name) || entry.is_directory();
     if (!expected) names.insert(name);
   }

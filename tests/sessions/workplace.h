@@ -55,8 +55,10 @@ class Workplace {
 
   // Puts down what the next run begins with. `forNobody` opens everything to all users.
   void Prepare(bool forNobody) const;
+  // To be called behind the run: even to read it, the engine writes beside a database.
+  void LookInto() const;
 
-  // The files of the program folder that neither we nor the database engine have put there.
+  // The files of the program folder that are neither ours nor databases.
   std::set<std::string> Leftovers() const;
 
  private:

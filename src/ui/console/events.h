@@ -25,6 +25,8 @@ class Events {
   // A command was read from a script.
   virtual void Command(std::string_view text) = 0;
   virtual void State(const Window& window) = 0;
+  // A person's command has been carried out; the lists are as they were.
+  virtual void Brief(const Window& window) = 0;
   // A box has come up; its answer is not known yet.
   virtual void BoxUp(const BoxText& box) = 0;
   virtual void Message(const BoxText& box, BoxAnswer answer) = 0;

@@ -13,6 +13,7 @@ class JsonEvents : public Events {
 
   void Command(std::string_view) override {}
   void State(const Window& window) override;
+  void Brief(const Window&) override {}
   void BoxUp(const BoxText&) override {}
   void Message(const BoxText& box, BoxAnswer answer) override;
   void Dialog(std::string_view name, bool open, const ControlTexts& texts) override;

@@ -78,6 +78,9 @@ void Session::RunCommands() {
     const auto command = commands_.Next();
     if (!command) return;
     Carry(*command, [this](const Command& one) { return ActOnWindow(one); });
+    const bool changes = command->verb == "click" || command->verb == "select" ||
+                         command->verb == "choose" || command->verb == "poke";
+    if (changes && commands_.Interactive() && !window_.ended()) events_.Brief(State());
   }
 }
 

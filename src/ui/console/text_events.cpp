@@ -38,9 +38,17 @@ std::string Drawn(const ComboBox& box) {
   return text;
 }
 
+// The persons of the case, with the numbers by which the command "person" shows them.
+std::string Drawn(const PersonLink& person) {
+  if (person.idAna == 0) return person.name;
+  return person.name + " (persona " + std::to_string(person.idAna) + ")";
+}
+
 void PrintCase(std::ostream& out, const CaseHeader& header) {
   if (!header.visible) return;
   PrintLine(out, "Pratica", header.idPra == 0 ? "nessuna" : header.title);
+  PrintLine(out, "Cliente", Drawn(header.cliente));
+  PrintLine(out, "Controparte", Drawn(header.controparte));
   PrintLine(out, "Oggetto", header.descriptions[0]);
   PrintLine(out, "Sezione", header.descriptions[1]);
   if (header.penale) PrintLine(out, "", "PRATICA PENALE");
@@ -48,11 +56,11 @@ void PrintCase(std::ostream& out, const CaseHeader& header) {
 
 void PrintChoice(std::ostream& out, const CaseChoice& choice) {
   if (choice.frameCliente.visible) {
-    PrintLine(out, "Cliente", Drawn(choice.cmbParti[kBoxClient]));
-    PrintLine(out, "Controparte", Drawn(choice.cmbParti[kBoxCounterpart]));
+    PrintLine(out, "Cliente ?", Drawn(choice.cmbParti[kBoxClient]));
+    PrintLine(out, "Controparte ?", Drawn(choice.cmbParti[kBoxCounterpart]));
   }
   if (choice.frameUtenteCont.visible) {
-    PrintLine(out, "Contabilità", Drawn(choice.cmbUtenteCont));
+    PrintLine(out, "Contabilità ?", Drawn(choice.cmbUtenteCont));
   }
 }
 
@@ -102,13 +110,17 @@ void TextEvents::Command(std::string_view text) {
 }
 
 void TextEvents::State(const Window& window) {
-  const Commands& commands = window.commands;
   out_ << "\n" << window.frmMain.caption << "\n\n";
-  PrintCase(out_, window.choice.ctlTestata1);
-  PrintChoice(out_, window.choice);
   const Table table = window.lstImport.visible ? ReviewTable(window.lstImport)
                                                : AgendaTable(window.lstAgendaAvv);
-  if (!table.rows.empty()) out_ << "\n" << Drawn(table, TerminalWidth()) << "\n";
+  if (!table.rows.empty()) out_ << Drawn(table, TerminalWidth()) << "\n";
+  Brief(window);
+}
+
+void TextEvents::Brief(const Window& window) {
+  const Commands& commands = window.commands;
+  PrintCase(out_, window.choice.ctlTestata1);
+  PrintChoice(out_, window.choice);
   PrintLine(out_, "Comandi",
             Drawn(commands.cmdAzione) + " " + Drawn(commands.cmdAnnulla) + " " +
                 Drawn(commands.cmdNo));

@@ -13,6 +13,7 @@ class TextEvents : public Events {
 
   void Command(std::string_view text) override;
   void State(const Window& window) override;
+  void Brief(const Window& window) override;
   void BoxUp(const BoxText& box) override;
   void Message(const BoxText& box, BoxAnswer answer) override;
   void Dialog(std::string_view name, bool open, const ControlTexts& texts) override;
