@@ -23,7 +23,8 @@ constexpr std::array<Field, 12> kFields = {{
     {"Valore della causa", "€ 186.500,00"},
     {"Contributo unificato", "€ 759,00 (versato il 13/01/2025 alle 17:05)"},
     {"Fascicoli collegati", "3310/2024 (accertamento tecnico preventivo)"},
-    {"Esito dell'ultima udienza", "Ammesse le prove per testi; rinvio per l'escussione dei testimoni"},
+    {"Esito dell'ultima udienza",
+     "Ammesse le prove per testi; rinvio per l'escussione dei testimoni"},
     {"Annotazioni di cancelleria", "L'originale è custodito nell'armadio n. 3"},
 }};
 

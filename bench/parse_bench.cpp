@@ -64,8 +64,8 @@ void ImportProfile(benchmark::State& state, ParseSetup& setup) {
     ListSink sink;
     Page page;
     HistoryPaging paging;
-    const auto stop = Import({setup.folder.path(), setup.mappings, page, paging, sink}, kStem,
-                             kPageProfile);
+    const auto stop =
+        Import({setup.folder.path(), setup.mappings, page, paging, sink}, kStem, kPageProfile);
     if (stop || sink.list.rows.size() != kLines + 1) state.SkipWithError("the import stopped");
   }
   state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(setup.bytes));

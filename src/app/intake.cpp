@@ -21,9 +21,10 @@ std::string PageText(const Clipboard& clipboard) {
 }
 
 RunTimeError WriteError(const fs::path& file) {
-  return MakeError(ErrorNumber::kFileAccess,
-                   "impossibile scrivere il file della pagina \"" + file.string() +
-                       "\". Controllare i diritti sulla cartella del programma e lo spazio su disco.");
+  return MakeError(
+      ErrorNumber::kFileAccess,
+      "impossibile scrivere il file della pagina \"" + file.string() +
+          "\". Controllare i diritti sulla cartella del programma e lo spazio su disco.");
 }
 
 void AllowOwnerOnly(const fs::path& file) {

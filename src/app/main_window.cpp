@@ -131,8 +131,8 @@ bool MainWindow::ClickPerson(std::int32_t ID_Ana) {
   Run([&] {
     world_.desktop.SetMousePointer(MousePointer::kHourglass);
     DbRecord person;
-    person.Open(*database_,
-                "SELECT * FROM Anagrafica WHERE ID_Ana = " + std::to_string(ID_Ana), kForReading);
+    person.Open(*database_, "SELECT * FROM Anagrafica WHERE ID_Ana = " + std::to_string(ID_Ana),
+                kForReading);
     found = !person.recordset().Eof();
     if (found) {
       frmInfoAnagrafica_.ValorizzaInfo(person, kCardOnly);
@@ -171,8 +171,7 @@ void MainWindow::cmdAzione_Click() {
                                  agenda};
   const ActionOutcome outcome = ordex::cmdAzione_Click(
       {*database_, window_.page, window_.choice, window_.commands, ctlTestata1_, world_.boxes,
-       world_.desktop,
-       [&record](std::int32_t idPra) { return RegistraPratica(record, idPra); }});
+       world_.desktop, [&record](std::int32_t idPra) { return RegistraPratica(record, idPra); }});
   if (outcome == ActionOutcome::kGoOn) return;
   Form_Unload();
   End(outcome == ActionOutcome::kDone ? EndReason::kDone : EndReason::kFailed);

@@ -23,9 +23,7 @@ class WindowSink : public ImportSink {
  public:
   explicit WindowSink(Window& window) : window_(window) {}
 
-  void SetWidthlstImport(int kind) override {
-    ordex::SetWidthlstImport(window_.lstImport, kind);
-  }
+  void SetWidthlstImport(int kind) override { ordex::SetWidthlstImport(window_.lstImport, kind); }
   void WriteListView(std::string_view ValueItem, std::string_view FirstSubItem,
                      std::string_view SecondSubItem, std::string_view ThirdSubItem,
                      std::string_view szTag) override {
@@ -65,8 +63,8 @@ void MainWindow::Form_Load() {
   GestUtente();
   LoadOrdexMap(window_.mappings);
   SetCaption();
-  TxtfromClipboard(programFolder_, window_.page.szNameTxt, world_.clipboard);
   PageFileOnDisk pageFile(programFolder_, window_.page.szNameTxt);
+  TxtfromClipboard(programFolder_, window_.page.szNameTxt, world_.clipboard);
   ImportPage();
   pageFile.Delete();
   ctlTestata1_.Reset();
@@ -136,7 +134,8 @@ void MainWindow::PrepareForKind() {
       cmdAzione.caption = "Aggiorna";
       cmdAzione.symbol = kSymbolUpdate;
       break;
-    default: break;
+    default:
+      break;
   }
 }
 
@@ -148,8 +147,8 @@ void MainWindow::FindCaseOfPage() {
 
 void MainWindow::TakeFurtherProfile() {
   SetCaption();
-  TxtfromClipboard(programFolder_, window_.page.szNameTxt, world_.clipboard);
   PageFileOnDisk pageFile(programFolder_, window_.page.szNameTxt);
+  TxtfromClipboard(programFolder_, window_.page.szNameTxt, world_.clipboard);
   ClearRows(window_.lstImport);
   ImportPage();
   FindCaseOfPage();

@@ -18,10 +18,9 @@ BoxText Question(std::string text, std::string title) {
 
 // The header counts as showing no case also when it shows one without a single text.
 bool ShowsNoCase(const CaseHeader& header) {
-  return header.idPra == 0 ||
-         (header.title.empty() && header.numeroRG.empty() &&
-          std::all_of(header.descriptions.begin(), header.descriptions.end(),
-                      [](const std::string& text) { return text.empty(); }));
+  return header.idPra == 0 || (header.title.empty() && header.numeroRG.empty() &&
+                               std::all_of(header.descriptions.begin(), header.descriptions.end(),
+                                           [](const std::string& text) { return text.empty(); }));
 }
 
 bool PartyMissing(const CaseChoice& choice) {
@@ -66,9 +65,8 @@ void OfferCreate(const ActionTask& task) {
 
 bool RefusesPenalCase(const ActionTask& task) {
   if (!task.choice.ctlTestata1.penale) return false;
-  task.boxes.Show(
-      {"La pratica è penale e non può essere aggiornata con i dati di OrdexWeb.", "Pratica Penale",
-       BoxIcon::kWarning, BoxButtons::kOk});
+  task.boxes.Show({"La pratica è penale e non può essere aggiornata con i dati di OrdexWeb.",
+                   "Pratica Penale", BoxIcon::kWarning, BoxButtons::kOk});
   return true;
 }
 
@@ -84,9 +82,8 @@ bool AgreesToOtherNumber(const ActionTask& task) {
 
 ActionOutcome UpdateCase(const ActionTask& task) {
   if (!task.RegistraPratica(task.choice.ctlTestata1.idPra)) return ActionOutcome::kFailed;
-  task.boxes.Show(
-      Information("La pratica di Praxion è stata aggiornata con i dati di OrdexWeb.",
-                  "Pratica Praxion aggiornata"));
+  task.boxes.Show(Information("La pratica di Praxion è stata aggiornata con i dati di OrdexWeb.",
+                              "Pratica Praxion aggiornata"));
   return ActionOutcome::kDone;
 }
 
@@ -115,8 +112,10 @@ ActionOutcome CreateOrUpdate(const ActionTask& task) {
 ActionOutcome cmdAzione_Click(const ActionTask& task) {
   switch (task.page.pageAtOpening) {
     case kPageProfile:
-    case kPageJusticeOfThePeace: return CreateOrUpdate(task);
-    default: return ActionOutcome::kGoOn;
+    case kPageJusticeOfThePeace:
+      return CreateOrUpdate(task);
+    default:
+      return ActionOutcome::kGoOn;
   }
 }
 

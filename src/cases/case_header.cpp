@@ -12,7 +12,8 @@ namespace {
 
 constexpr std::string_view kSelectCase = "SELECT * FROM Pratica WHERE ID_Pra = ?";
 
-// The column's value, or Null where the table has no such column: an older case database lacks some.
+// The column's value, or Null where the table has no such column: an older case database lacks
+// some.
 Value ColumnValue(const std::vector<ColumnInfo>& columns, const Row& row, std::string_view name) {
   const auto found = std::find_if(columns.begin(), columns.end(), [name](const ColumnInfo& column) {
     return EqualIgnoringCase(column.name, name);

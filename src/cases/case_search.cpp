@@ -54,8 +54,9 @@ std::string Holds(std::string_view text) {
 // looked for as it stands, in small letters and in capitals.
 std::vector<std::string> Spellings(std::string_view text) {
   std::vector<std::string> spellings = {std::string(text)};
-  const bool ascii = std::all_of(text.begin(), text.end(),
-                                 [](char letter) { return static_cast<unsigned char>(letter) < 0x80; });
+  const bool ascii = std::all_of(text.begin(), text.end(), [](char letter) {
+    return static_cast<unsigned char>(letter) < 0x80;
+  });
   if (ascii) return spellings;
   for (std::string other : {Lower(text), Upper(text)}) {
     if (other != text) spellings.push_back(std::move(other));
@@ -90,7 +91,8 @@ class Search {
   // the other begins is not known: every blank may stand between them.
   void AskForParties(std::string_view text) {
     for (const std::string_view select : kByPersonLike) Ask(select, {BeginsWith(text)});
-    for (std::size_t at = text.find(' '); at != std::string_view::npos; at = text.find(' ', at + 1)) {
+    for (std::size_t at = text.find(' '); at != std::string_view::npos;
+         at = text.find(' ', at + 1)) {
       for (const std::string_view select : kByPersonLike) {
         Ask(std::string(select).append(kAndFirstName),
             {BeginsWith(text.substr(0, at)), BeginsWith(text.substr(at + 1))});

@@ -103,10 +103,10 @@ void HearingWriter::WriteHearing(std::string_view key) {
   const std::string parti = PartiesText(database_, *found);
 
   DbRecord record;
-  record.Open(database_,
-              OnDayOfCase(ToDate(data), found->idPra) + " and IsUdienza = 'TRUE'" +
-                  " and IsOrdex = 'TRUE'",
-              kForChanges);
+  record.Open(
+      database_,
+      OnDayOfCase(ToDate(data), found->idPra) + " and IsUdienza = 'TRUE'" + " and IsOrdex = 'TRUE'",
+      kForChanges);
   AddIfMissing(record, "UDIENZA");
   record.Set("Data_End", std::string(data));
   SetCaseColumns(record, *found, parti, true);
@@ -135,8 +135,8 @@ void HearingWriter::WriteDeadline(std::string_view data, std::string_view descri
   const std::string_view scadenza = Trim(descrizione);
   DbRecord record;
   record.Open(database_,
-              OnDayOfCase(ToDate(data), found->idPra) + " and Scadenza = " +
-                  FormattaStringaSql(scadenza) + " and IsOrdex = 'TRUE'",
+              OnDayOfCase(ToDate(data), found->idPra) +
+                  " and Scadenza = " + FormattaStringaSql(scadenza) + " and IsOrdex = 'TRUE'",
               kForChanges);
   AddIfMissing(record, scadenza);
   record.Set("Data_End", std::string(Trim(data)));

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "base/text_file.h"
+#include "parse/history_paging.h"
 #include "parse/mapping_files.h"
 #include "parse/page_rules.h"
 
@@ -16,8 +17,16 @@ class NoRules : public PageRules {
 
 std::unique_ptr<PageRules> MakeRules(std::int16_t kind, const RulesContext& context) {
   switch (kind) {
-    case kPageProfile: return MakeProfileRules(context);
-    default: return std::make_unique<NoRules>();
+    case kPageProfile:
+      return MakeProfileRules(context);
+    case kPageHistory:
+      return MakeHistoryRules(context);
+    case kPageAgenda:
+      return MakeAgendaRules(context);
+    case kPageJusticeOfThePeace:
+      return MakeJusticeOfThePeaceRules(context);
+    default:
+      return std::make_unique<NoRules>();
   }
 }
 
@@ -32,8 +41,7 @@ void ReadLines(PageReader& reader, PageRules& rules) {
 std::optional<ImportStop> ReadPage(const ImportTask& task, std::string_view text,
                                    std::int16_t kind) {
   PageReader reader(text, task.trace);
-  const auto rules =
-      MakeRules(kind, {task.mappings, task.page, task.paging, task.sink, reader});
+  const auto rules = MakeRules(kind, {task.mappings, task.page, task.paging, task.sink, reader});
   try {
     ReadLines(reader, *rules);
   } catch (const RunTimeError& error) {
@@ -41,6 +49,18 @@ std::optional<ImportStop> ReadPage(const ImportTask& task, std::string_view text
     return ImportStop{error, line.number, std::string(line.text), true};
   }
   return std::nullopt;
+}
+
+std::optional<ImportStop> ImportFile(const ImportTask& task, std::string_view szNameInput,
+                                     std::int16_t kind) {
+  try {
+    LoadDelimitatori(task.mappings);
+    return ReadPage(task, ReadTextFile(PageFile(task.programFolder, szNameInput)), kind);
+  } catch (const FileLineError& error) {
+    return ImportStop{error, error.line(), {}, false};
+  } catch (const RunTimeError& error) {
+    return ImportStop{error, 0, {}, false};
+  }
 }
 
 }  // namespace
@@ -54,14 +74,9 @@ std::optional<ImportStop> Import(const ImportTask& task, std::string_view szName
                                  std::int16_t iOrdexPage) {
   task.page.cDatiFasc.Clear();
   task.sink.SetWidthlstImport(iOrdexPage);
-  try {
-    LoadDelimitatori(task.mappings);
-    return ReadPage(task, ReadTextFile(PageFile(task.programFolder, szNameInput)), iOrdexPage);
-  } catch (const FileLineError& error) {
-    return ImportStop{error, error.line(), {}, false};
-  } catch (const RunTimeError& error) {
-    return ImportStop{error, 0, {}, false};
-  }
+  auto stop = ImportFile(task, szNameInput, iOrdexPage);
+  if (stop && iOrdexPage == kPageHistory) ForgetHistoryPage(task.paging);
+  return stop;
 }
 
 }  // namespace ordex

@@ -25,10 +25,9 @@ PageLine PageReader::Next() {
 std::string_view Delimiter::Find() const {
   const std::string* text = cDelimitatori_.Lookup(key_);
   if (text == nullptr) {
-    throw MakeError(ErrorNumber::kMissingKey, "\"" + std::string(key_) + "\" manca nel file \"" +
-                                                  kMapDelimitatori +
-                                                  "\": aggiungere la riga testo=" +
-                                                  std::string(key_));
+    throw MakeError(ErrorNumber::kMissingKey,
+                    "\"" + std::string(key_) + "\" manca nel file \"" + kMapDelimitatori +
+                        "\": aggiungere la riga testo=" + std::string(key_));
   }
   return *text;
 }
@@ -44,12 +43,21 @@ bool Landmark::In(std::string_view line) {
   return next_ != std::string_view::npos && next_ + wanted.size() <= begin + line.size();
 }
 
+std::string_view Part(const std::vector<std::string_view>& parts, std::size_t index) {
+  if (index >= parts.size()) {
+    throw MakeError(ErrorNumber::kSubscript, "la riga ha " + std::to_string(parts.size()) +
+                                                 " parti, ne servono almeno " +
+                                                 std::to_string(index + 1));
+  }
+  return parts[index];
+}
+
 const std::string& FieldOf(const KeyedTable& cOrdexMap, std::string_view label) {
   const std::string* field = cOrdexMap.Lookup(label);
   if (field == nullptr) {
-    throw MakeError(ErrorNumber::kMissingKey, "\"" + std::string(label) + "\" manca nel file \"" +
-                                                  kMapCampi + "\": aggiungere la riga campo=" +
-                                                  std::string(label));
+    throw MakeError(ErrorNumber::kMissingKey,
+                    "\"" + std::string(label) + "\" manca nel file \"" + kMapCampi +
+                        "\": aggiungere la riga campo=" + std::string(label));
   }
   return *field;
 }

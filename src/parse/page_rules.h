@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "base/keyed_table.h"
 #include "parse/import.h"
@@ -30,6 +31,9 @@ class PageRules {
 };
 
 std::unique_ptr<PageRules> MakeProfileRules(const RulesContext& context);
+std::unique_ptr<PageRules> MakeHistoryRules(const RulesContext& context);
+std::unique_ptr<PageRules> MakeAgendaRules(const RulesContext& context);
+std::unique_ptr<PageRules> MakeJusticeOfThePeaceRules(const RulesContext& context);
 
 // A delimiter text of "MapDelimitatori.txt", looked up when it is first asked for: a key that the
 // file lacks is an error at the first line that needs it, and none on a page that does not.
@@ -71,6 +75,9 @@ class Landmark {
   std::size_t searchedFrom_ = std::string_view::npos;
   std::size_t next_ = 0;
 };
+
+// The part of a cut line at `index`, counted from 0. Error: subscript, where the line has fewer.
+std::string_view Part(const std::vector<std::string_view>& parts, std::size_t index);
 
 // The database field that a label fills. Error: missing key, naming "MapCampi.txt".
 const std::string& FieldOf(const KeyedTable& cOrdexMap, std::string_view label);

@@ -4,6 +4,7 @@
 
 #include "base/error.h"
 #include "base/text.h"
+#include "parse/history_paging.h"
 #include "parse/mapping_files.h"
 
 namespace ordex {
@@ -38,7 +39,7 @@ std::string ClipboardText(const Clipboard& clipboard) {
   return ToCrLf(clipboard.GetText());
 }
 
-bool RiconosciPagina(Mappings& mappings, Page& page, HistoryPaging&, Clipboard& clipboard,
+bool RiconosciPagina(Mappings& mappings, Page& page, HistoryPaging& paging, Clipboard& clipboard,
                      MessageBoxes& boxes) {
   const std::string text = ClipboardText(clipboard);
   FindKind(mappings.cRestr, text, page.iOrdexPage);
@@ -48,7 +49,10 @@ bool RiconosciPagina(Mappings& mappings, Page& page, HistoryPaging&, Clipboard& 
     clipboard.Clear();
     return false;
   }
-  if (page.iOrdexPage == kPageHistory) LoadDelimitatori(mappings);
+  if (page.iOrdexPage == kPageHistory) {
+    LoadDelimitatori(mappings);
+    ReadHistoryPlace(mappings.cDelimitatori, text, paging);
+  }
   return true;
 }
 

@@ -34,8 +34,8 @@ struct CaseHeader {
   std::string title;                        // client, counterpart and register number
   std::array<std::string, 2> descriptions;  // subject and section
   bool penale = false;
-  PersonLink cliente;        // idAna 0 where the case names no registered person
-  PersonLink controparte;    // idAna 0 where there is only a name, or nobody
+  PersonLink cliente;      // idAna 0 where the case names no registered person
+  PersonLink controparte;  // idAna 0 where there is only a name, or nobody
   std::string istruttore;
   std::string posizione;
 

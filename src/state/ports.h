@@ -93,8 +93,8 @@ class Diagnostics {
   virtual void Failed(const RunTimeError& error, std::optional<std::size_t> line) = 0;
 };
 
-// Shows a dialog and returns once it is closed. What it shows is its state; what its controls do are
-// the handlers of the dialog's logic.
+// Shows a dialog and returns once it is closed. What it shows is its state; what its controls do
+// are the handlers of the dialog's logic.
 class Dialogs {
  public:
   virtual ~Dialogs() = default;

@@ -78,8 +78,7 @@ bool RegistraPratica(const CaseRecordTask& task, std::int32_t idPra) {
     }
     InTransaction(task.database, [&] {
       const std::int32_t written = WriteCaseRow(record, task, create, idCliente);
-      RegistraDatiOrdex(task.database, written, task.page, task.lstImport, task.clock,
-                        task.agenda);
+      RegistraDatiOrdex(task.database, written, task.page, task.lstImport, task.clock, task.agenda);
     });
   });
 }

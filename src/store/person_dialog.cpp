@@ -90,7 +90,8 @@ std::string CardText(const Person& person) {
 // percent escape, so that an address cannot bring further arguments along.
 bool IsPlainInLink(char byte) {
   return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') ||
-         (byte >= '0' && byte <= '9') || std::string_view("@.-_+,~!$'*").find(byte) != std::string_view::npos;
+         (byte >= '0' && byte <= '9') ||
+         std::string_view("@.-_+,~!$'*").find(byte) != std::string_view::npos;
 }
 
 std::string LinkText(std::string_view text) {
@@ -174,7 +175,8 @@ bool PersonDialog::InviaEmail(std::string_view address, std::string_view subject
                               std::string_view body) {
   std::string link = "mailto:" + LinkText(address);
   if (!subject.empty()) link.append("?subject=").append(LinkText(subject));
-  if (!body.empty()) link.append(subject.empty() ? "?" : "&").append("body=").append(LinkText(body));
+  if (!body.empty())
+    link.append(subject.empty() ? "?" : "&").append("body=").append(LinkText(body));
   return desktop_.Open(link);
 }
 

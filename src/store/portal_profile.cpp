@@ -28,8 +28,7 @@ void SetColumn(DbRecord& record, const std::string& column, const std::string& v
 void WriteProfileRow(const Database& database, std::int32_t idPratica, const KeyedTable& cDatiFasc,
                      const Clock& clock) {
   DbRecord record;
-  record.Open(database,
-              "SELECT * from PraOrdex where ID_PraRel = " + std::to_string(idPratica),
+  record.Open(database, "SELECT * from PraOrdex where ID_PraRel = " + std::to_string(idPratica),
               kForChanges);
   Recordset& rows = record.recordset();
   if (rows.RecordCount() == 0) {

@@ -139,10 +139,11 @@ TEST_F(Recognition, WithoutAnyRecognitionTextTheKindStaysAsItWas) {
 TEST_F(Recognition, AHistoryPageLoadsTheDelimitersAfresh) {
   folder_.Write("MapDelimitatori.txt", "vecchio=DELSF1\nx=DELSF2\n");
   LoadDelimitatori(mappings_);
-  folder_.Write("MapDelimitatori.txt", "nuovo=DELSF1\n");
+  folder_.Write("MapDelimitatori.txt", "nuovo=DELSF1\nElenco(=DELSF4\nrighe)=DELSF5\n");
   EXPECT_TRUE(Recognise("Storico del fascicolo"));
   EXPECT_EQ(page_.iOrdexPage, 2);
-  EXPECT_EQ(ValuesOf(mappings_.cDelimitatori), (NamedValues{{"DELSF1", "nuovo"}}));
+  EXPECT_EQ(ValuesOf(mappings_.cDelimitatori),
+            (NamedValues{{"DELSF1", "nuovo"}, {"DELSF4", "Elenco("}, {"DELSF5", "righe)"}}));
 }
 
 TEST_F(Recognition, OtherPagesLoadNoDelimiters) {

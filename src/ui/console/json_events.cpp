@@ -7,30 +7,42 @@ namespace {
 
 std::string_view Name(BoxIcon icon) {
   switch (icon) {
-    case BoxIcon::kInformation: return "information";
-    case BoxIcon::kWarning: return "warning";
-    case BoxIcon::kQuestion: return "question";
-    case BoxIcon::kStop: return "stop";
+    case BoxIcon::kInformation:
+      return "information";
+    case BoxIcon::kWarning:
+      return "warning";
+    case BoxIcon::kQuestion:
+      return "question";
+    case BoxIcon::kStop:
+      return "stop";
   }
   return "";
 }
 
 std::string_view Name(BoxAnswer answer) {
   switch (answer) {
-    case BoxAnswer::kOk: return "ok";
-    case BoxAnswer::kYes: return "yes";
-    case BoxAnswer::kNo: return "no";
+    case BoxAnswer::kOk:
+      return "ok";
+    case BoxAnswer::kYes:
+      return "yes";
+    case BoxAnswer::kNo:
+      return "no";
   }
   return "";
 }
 
 std::string_view Name(EndReason reason) {
   switch (reason) {
-    case EndReason::kClosed: return "closed";
-    case EndReason::kDone: return "done";
-    case EndReason::kFailed: return "failed";
-    case EndReason::kRefused: return "refused";
-    case EndReason::kError: return "error";
+    case EndReason::kClosed:
+      return "closed";
+    case EndReason::kDone:
+      return "done";
+    case EndReason::kFailed:
+      return "failed";
+    case EndReason::kRefused:
+      return "refused";
+    case EndReason::kError:
+      return "error";
   }
   return "";
 }
@@ -66,8 +78,7 @@ void JsonEvents::Dialog(std::string_view name, bool open, const ControlTexts& te
 void JsonEvents::Found(const std::vector<FoundCase>& cases) {
   Json list = Json::array();
   for (const FoundCase& found : cases) {
-    list.push_back(
-        {{"idPra", found.idPra}, {"numeroRG", found.numeroRG}, {"title", found.title}});
+    list.push_back({{"idPra", found.idPra}, {"numeroRG", found.numeroRG}, {"title", found.title}});
   }
   Print(out_, {{"event", "found"}, {"cases", std::move(list)}});
 }

@@ -45,10 +45,14 @@ int ExitCode(const SessionEnd& end) {
   if (end.scriptError) return kWrongCall;
   switch (end.reason) {
     case EndReason::kClosed:
-    case EndReason::kDone: return 0;
-    case EndReason::kRefused: return 3;
-    case EndReason::kError: return 4;
-    case EndReason::kFailed: return 5;
+    case EndReason::kDone:
+      return 0;
+    case EndReason::kRefused:
+      return 3;
+    case EndReason::kError:
+      return 4;
+    case EndReason::kFailed:
+      return 5;
   }
   return 0;
 }
@@ -93,9 +97,9 @@ int RunSession(const Options& options, const char* executable) {
   IniSettings settings(options.settings.empty() ? UserSettingsFile()
                                                 : std::filesystem::path(options.settings));
   const auto events = MakeEvents(options);
-  Session session({ProgramFolder(options.dir, executable), settings, *clock, clipboard,
-                   options.sql},
-                  commands, *events);
+  Session session(
+      {ProgramFolder(options.dir, executable), settings, *clock, clipboard, options.sql}, commands,
+      *events);
   return ExitCode(session.Run());
 }
 

@@ -37,8 +37,10 @@ bool IsOneOf(std::string_view word, std::initializer_list<std::string_view> word
 }
 
 ControlTexts TextsOf(const PersonCard& card) {
-  return {{"caption", card.caption},   {"lblInfo", card.lblInfo},
-          {"Label1", card.Label1},     {"lblInfo2", card.lblInfo2},
+  return {{"caption", card.caption},
+          {"lblInfo", card.lblInfo},
+          {"Label1", card.Label1},
+          {"lblInfo2", card.lblInfo2},
           {"lblDomanda", card.lblDomanda}};
 }
 
@@ -165,8 +167,8 @@ bool Session::SelectParty(std::string_view box, std::string_view place) {
   const auto which = NumberWithin(box, 0, std::ssize(choice.cmbParti) - 1);
   if (!which || !choice.frameCliente.visible) return false;
   const auto index = static_cast<std::size_t>(*which);
-  const auto entry = NumberWithin(place, ComboBox::kNoChoice,
-                                  std::ssize(choice.cmbParti[index].items) - 1);
+  const auto entry =
+      NumberWithin(place, ComboBox::kNoChoice, std::ssize(choice.cmbParti[index].items) - 1);
   if (!entry) return false;
   window_.SelectParty(index, *entry);
   return true;
@@ -200,8 +202,9 @@ bool Session::ClickColumn(std::string_view number) {
 }
 
 bool Session::ClickRow(std::string_view number) {
-  const std::ptrdiff_t count = State().lstImport.visible ? static_cast<std::ptrdiff_t>(State().lstImport.rows.size())
-                                                         : std::ssize(State().lstAgendaAvv.rows);
+  const std::ptrdiff_t count = State().lstImport.visible
+                                   ? static_cast<std::ptrdiff_t>(State().lstImport.rows.size())
+                                   : std::ssize(State().lstAgendaAvv.rows);
   const auto row = NumberWithin(number, 1, count);
   if (!row) return false;
   window_.ClickRow(static_cast<std::size_t>(*row));

@@ -49,8 +49,7 @@ Json CounselJson(const KeyedTable& difensori) {
 Json ReviewListJson(const ReviewList& list) {
   Json columns = Json::array();
   for (const Column& column : list.columns) {
-    columns.push_back(
-        {{"header", column.header}, {"width", column.width}, {"icon", column.icon}});
+    columns.push_back({{"header", column.header}, {"width", column.width}, {"icon", column.icon}});
   }
   Json rows = Json::array();
   for (const std::uint32_t place : list.order) rows.push_back(ReviewRowJson(list.rows[place]));
@@ -77,12 +76,9 @@ Json AgendaListJson(const AgendaList& list) {
 }
 
 Json CaseHeaderJson(const CaseHeader& header) {
-  return {{"visible", header.visible},
-          {"idPra", header.idPra},
-          {"numeroRG", header.numeroRG},
-          {"title", header.title},
-          {"descriptions", header.descriptions},
-          {"penale", header.penale},
+  return {{"visible", header.visible},           {"idPra", header.idPra},
+          {"numeroRG", header.numeroRG},         {"title", header.title},
+          {"descriptions", header.descriptions}, {"penale", header.penale},
           {"idUtente", header.idUtente}};
 }
 
@@ -98,24 +94,23 @@ Json CommandsJson(const Commands& commands) {
   const Button& azione = commands.cmdAzione;
   const Button& annulla = commands.cmdAnnulla;
   const ToggleButton& dettagli = commands.chkDettagli;
-  return {{"cmdAzione",
-           {{"caption", azione.caption},
-            {"symbol", azione.symbol},
-            {"enabled", azione.enabled},
-            {"toolTip", azione.toolTip}}},
-          {"cmdAnnulla",
-           {{"caption", annulla.caption},
-            {"enabled", annulla.enabled},
-            {"toolTip", annulla.toolTip}}},
-          {"cmdPulisci",
-           {{"visible", commands.cmdPulisci.visible}, {"toolTip", commands.cmdPulisci.toolTip}}},
-          {"cmdNo", {{"caption", commands.cmdNo.caption}, {"toolTip", commands.cmdNo.toolTip}}},
-          {"chkDettagli",
-           {{"caption", dettagli.caption},
-            {"pressed", dettagli.pressed},
-            {"picture", dettagli.picture},
-            {"toolTip", dettagli.toolTip}}},
-          {"HIWarning", {{"text", commands.HIWarning.caption}}}};
+  return {
+      {"cmdAzione",
+       {{"caption", azione.caption},
+        {"symbol", azione.symbol},
+        {"enabled", azione.enabled},
+        {"toolTip", azione.toolTip}}},
+      {"cmdAnnulla",
+       {{"caption", annulla.caption}, {"enabled", annulla.enabled}, {"toolTip", annulla.toolTip}}},
+      {"cmdPulisci",
+       {{"visible", commands.cmdPulisci.visible}, {"toolTip", commands.cmdPulisci.toolTip}}},
+      {"cmdNo", {{"caption", commands.cmdNo.caption}, {"toolTip", commands.cmdNo.toolTip}}},
+      {"chkDettagli",
+       {{"caption", dettagli.caption},
+        {"pressed", dettagli.pressed},
+        {"picture", dettagli.picture},
+        {"toolTip", dettagli.toolTip}}},
+      {"HIWarning", {{"text", commands.HIWarning.caption}}}};
 }
 
 }  // namespace

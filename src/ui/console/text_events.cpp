@@ -94,11 +94,16 @@ Table AgendaTable(const AgendaList& list) {
 
 std::string_view Ending(EndReason reason) {
   switch (reason) {
-    case EndReason::kClosed: return "La finestra è stata chiusa.";
-    case EndReason::kDone: return "Operazione completata.";
-    case EndReason::kFailed: return "L'aggiornamento non è riuscito: controllare la pratica in Praxion.";
-    case EndReason::kRefused: return "La pagina non è stata riconosciuta.";
-    case EndReason::kError: return "Il programma è terminato per un errore.";
+    case EndReason::kClosed:
+      return "La finestra è stata chiusa.";
+    case EndReason::kDone:
+      return "Operazione completata.";
+    case EndReason::kFailed:
+      return "L'aggiornamento non è riuscito: controllare la pratica in Praxion.";
+    case EndReason::kRefused:
+      return "La pagina non è stata riconosciuta.";
+    case EndReason::kError:
+      return "Il programma è terminato per un errore.";
   }
   return "";
 }
@@ -111,8 +116,8 @@ void TextEvents::Command(std::string_view text) {
 
 void TextEvents::State(const Window& window) {
   out_ << "\n" << window.frmMain.caption << "\n\n";
-  const Table table = window.lstImport.visible ? ReviewTable(window.lstImport)
-                                               : AgendaTable(window.lstAgendaAvv);
+  const Table table =
+      window.lstImport.visible ? ReviewTable(window.lstImport) : AgendaTable(window.lstAgendaAvv);
   if (!table.rows.empty()) out_ << Drawn(table, TerminalWidth()) << "\n";
   Brief(window);
 }
@@ -121,15 +126,16 @@ void TextEvents::Brief(const Window& window) {
   const Commands& commands = window.commands;
   PrintCase(out_, window.choice.ctlTestata1);
   PrintChoice(out_, window.choice);
-  PrintLine(out_, "Comandi",
-            Drawn(commands.cmdAzione) + " " + Drawn(commands.cmdAnnulla) + " " +
-                Drawn(commands.cmdNo));
+  PrintLine(
+      out_, "Comandi",
+      Drawn(commands.cmdAzione) + " " + Drawn(commands.cmdAnnulla) + " " + Drawn(commands.cmdNo));
   PrintLine(out_, "Stato", window.status.text);
   out_ << std::flush;
 }
 
 void TextEvents::BoxUp(const BoxText& box) {
-  out_ << "\n── " << box.title << " ──\n" << ReplaceAll(box.text, "\r\n", "\n") << "\n"
+  out_ << "\n── " << box.title << " ──\n"
+       << ReplaceAll(box.text, "\r\n", "\n") << "\n"
        << (box.buttons == BoxButtons::kOk ? "[OK]" : "[Sì] [No]") << std::endl;
 }
 

@@ -1,0 +1,96 @@
+// The rules of the lawyer's agenda page.
+#include <string>
+#include <string_view>
+
+#include "base/error.h"
+#include "base/number.h"
+#include "base/text.h"
+#include "parse/page_rules.h"
+
+namespace ordex {
+namespace {
+
+// Indents the entries under their case; part of the stored texts.
+constexpr std::string_view kIndent = "    ";
+
+class AgendaRules : public PageRules {
+ public:
+  explicit AgendaRules(const RulesContext& context)
+      : page_(context.page),
+        sink_(context.sink),
+        reader_(context.reader),
+        countBegin_(context.mappings.cDelimitatori, "DELAV1"),
+        countEnd_(context.mappings.cDelimitatori, "DELAV2"),
+        caseBegin_(context.mappings.cDelimitatori, "DELAV3"),
+        caseEnd_(context.mappings.cDelimitatori, "DELAV4"),
+        entries_(context.mappings.cDelimitatori, "DELAV5"),
+        column_(context.mappings.cDelimitatori, "DELAV6") {}
+
+  AfterLine Apply(PageLine szRiga) override {
+    if (Holds(szRiga, countBegin_, countEnd_)) {
+      TakeCount(szRiga);
+    } else if (Holds(szRiga, caseBegin_, caseEnd_)) {
+      TakeCase(szRiga);
+    } else if (Contains(szRiga.text, entries_.text())) {
+      TakeEntries(szRiga);
+    }
+    return AfterLine::kReadOn;
+  }
+
+ private:
+  static bool Holds(const PageLine& line, const Delimiter& one, const Delimiter& other) {
+    const std::string_view first = one.text();
+    const std::string_view second = other.text();
+    return Contains(line.text, first) && Contains(line.text, second);
+  }
+
+  void TakeCount(const PageLine& szRiga) {
+    reader_.Taken(szRiga, "numero impegni");
+    const std::string_view behind = Part(Split(szRiga.text, countBegin_.text(), 2), 1);
+    page_.iNrEventiAgenda = ToInt16(Split(behind, countEnd_.text())[0]);
+  }
+
+  void TakeCase(const PageLine& szRiga) {
+    reader_.Taken(szRiga, "fascicolo");
+    const auto pieces = Split(Split(szRiga.text, caseEnd_.text(), 2)[0], column_.text());
+    sink_.AggiungiRigaAgenda(Part(pieces, 2), Part(pieces, 1), true);
+  }
+
+  // The lines of the block are not trimmed. A line that begins the next case ends it too, and is
+  // handed back.
+  void TakeEntries(const PageLine& szRiga) {
+    reader_.Taken(szRiga, "impegni");
+    PageLine line = reader_.Next();
+    while (!line.text.empty() && !line.text.starts_with(caseBegin_.text())) {
+      reader_.Taken(line, "impegno");
+      const auto parts = Split(line.text, column_.text(), 3);
+      sink_.AggiungiRigaAgenda(Indented(Part(parts, 1)), Indented(Trim(Part(parts, 2))), false);
+      line = reader_.Next();
+    }
+    if (line.text.empty()) {
+      reader_.Taken(line, "fine impegni");
+    } else {
+      reader_.HandBack(line);
+    }
+  }
+
+  static std::string Indented(std::string_view text) { return std::string(kIndent).append(text); }
+
+  Page& page_;
+  ImportSink& sink_;
+  PageReader& reader_;
+  Delimiter countBegin_;
+  Delimiter countEnd_;
+  Delimiter caseBegin_;
+  Delimiter caseEnd_;
+  Delimiter entries_;
+  Delimiter column_;
+};
+
+}  // namespace
+
+std::unique_ptr<PageRules> MakeAgendaRules(const RulesContext& context) {
+  return std::make_unique<AgendaRules>(context);
+}
+
+}  // namespace ordex
