@@ -254,6 +254,13 @@ TEST_P(ConnectionContract, UpdatesOfDifferentShapesMayFollowEachOther) {
             (std::vector<Row>{{Text("Data"), Text("Descrizione")}}));
 }
 
+TEST_P(ConnectionContract, TheSameColumnsMayBeUpdatedByAnotherKey) {
+  const std::int64_t id = AddEvent(1, 900);
+  const std::vector<NamedValue> values = {{"Data", Text("x")}};
+  EXPECT_EQ(connection().UpdateRow("EventiPraOrdex", values, "ID_Evento", id), 1);
+  EXPECT_EQ(connection().UpdateRow("EventiPraOrdex", values, "Progressivo", Whole(900)), 1);
+}
+
 TEST_P(ConnectionContract, AWriteIntoAnUnknownTableOrColumnIsAnError) {
   const std::vector<NamedValue> values = {{"Manca", Whole(1)}};
   EXPECT_EQ(DbRaisedBy([&] { connection().Insert("Utenti", values); }).number, kDatabaseNumber);

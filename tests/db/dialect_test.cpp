@@ -261,6 +261,11 @@ TEST(RewriteForSqlite, AColumnThatIsTextInTheQualifyingTableStays) {
   ExpectUnchanged("select 1 from Pratica p, Utenti u where p.TitContabilita = 'TRUE'");
 }
 
+TEST(RewriteForSqlite, ATableInParenthesesIsNamedToo) {
+  EXPECT_EQ(Rewritten("select 1 from (Utenti) where TitContabilita = 'TRUE'"),
+            "select 1 from (Utenti) where TitContabilita = 1");
+}
+
 TEST(RewriteForSqlite, OnlyAComparisonWithEqualsIsRewritten) {
   ExpectUnchanged("select 1 from Utenti where TitContabilita <> 'TRUE'");
   ExpectUnchanged("select 1 from Utenti where TitContabilita >= 'TRUE'");

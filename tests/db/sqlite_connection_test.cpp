@@ -292,6 +292,18 @@ TEST_F(SqliteConnectionTest, NothingKeepsTheLogFromBeingEmptied) {
   sqlite3_close(other);
 }
 
+TEST_F(SqliteConnectionTest, AQueryThatFailedHalfwayDoesNotStayOpenEither) {
+  connection().Execute("insert into Anagrafica (DataNascita) values ('ieri')");
+  connection().Execute("insert into Anagrafica (DataNascita) values ('oggi')");
+  const auto query = connection().Prepare("SELECT DataNascita FROM Anagrafica");
+  EXPECT_EQ(DbRaisedBy([&] { query->FetchAll(); }).number, kDatabaseNumber);
+  sqlite3* other = nullptr;
+  ASSERT_EQ(sqlite3_open(office_.file().c_str(), &other), SQLITE_OK);
+  EXPECT_EQ(sqlite3_wal_checkpoint_v2(other, nullptr, SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr),
+            SQLITE_OK);
+  sqlite3_close(other);
+}
+
 TEST_F(SqliteConnectionTest, AQueryOutlivesItsConnection) {
   auto other = OpenSqlite(office_.file());
   const auto query = other->Prepare("SELECT ID_Utente FROM Utenti");
