@@ -33,7 +33,7 @@ class ListSink : public ImportSink {
 
 struct ParseSetup {
   ParseSetup() {
-    for (const char* file : {kMapCampi, kMapRestr, kMapDelimitatori}) {
+    for (const std::string_view file : {kMapCampi, kMapRestr, kMapDelimitatori}) {
       std::filesystem::copy_file(std::filesystem::path(ORDEX_SOURCE_DIR) / "mapping" / file,
                                  folder / file);
     }

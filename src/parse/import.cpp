@@ -57,7 +57,7 @@ std::optional<ImportStop> ImportFile(const ImportTask& task, std::string_view sz
     LoadDelimitatori(task.mappings);
     return ReadPage(task, ReadTextFile(PageFile(task.programFolder, szNameInput)), kind);
   } catch (const FileLineError& error) {
-    return ImportStop{error, error.line(), {}, false};
+    return ImportStop{{error.code(), error.description()}, error.line(), {}, false};
   } catch (const RunTimeError& error) {
     return ImportStop{error, 0, {}, false};
   }

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string_view>
 
 #include "base/keyed_table.h"
 #include "state/mappings.h"
@@ -13,9 +14,9 @@
 namespace ordex {
 
 // The names under which the files stand in the program folder.
-inline constexpr char kMapCampi[] = "MapCampi.txt";
-inline constexpr char kMapRestr[] = "MapRestr.txt";
-inline constexpr char kMapDelimitatori[] = "MapDelimitatori.txt";
+inline constexpr std::string_view kMapCampi = "MapCampi.txt";
+inline constexpr std::string_view kMapRestr = "MapRestr.txt";
+inline constexpr std::string_view kMapDelimitatori = "MapDelimitatori.txt";
 
 // Sets the paths of the three files.
 void LocateMappings(Mappings& mappings, const std::filesystem::path& programFolder);

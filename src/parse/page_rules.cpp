@@ -26,7 +26,8 @@ std::string_view Delimiter::Find() const {
   const std::string* text = cDelimitatori_.Lookup(key_);
   if (text == nullptr) {
     throw MakeError(ErrorNumber::kMissingKey,
-                    "\"" + std::string(key_) + "\" manca nel file \"" + kMapDelimitatori +
+                    "\"" + std::string(key_) + "\" manca nel file \"" +
+                        std::string(kMapDelimitatori) +
                         "\": aggiungere la riga testo=" + std::string(key_));
   }
   return *text;
@@ -56,7 +57,7 @@ const std::string& FieldOf(const KeyedTable& cOrdexMap, std::string_view label) 
   const std::string* field = cOrdexMap.Lookup(label);
   if (field == nullptr) {
     throw MakeError(ErrorNumber::kMissingKey,
-                    "\"" + std::string(label) + "\" manca nel file \"" + kMapCampi +
+                    "\"" + std::string(label) + "\" manca nel file \"" + std::string(kMapCampi) +
                         "\": aggiungere la riga campo=" + std::string(label));
   }
   return *field;

@@ -25,8 +25,7 @@ TEST(ActionOfTheWindow, UpdatesTheOneCaseOfThePage) {
       fixture.office.Rows("SELECT Scadenza, Data_End, Ora, Codice_Pra FROM SCADENZE ORDER BY 1, 2"),
       (Texts{"Deposito della lista dei testimoni|20/02/2026|NULL|2",
              "Note di trattazione del convenuto e dei terzi chiamati|06/03/2026|NULL|2",
-             "Note di trattazione dell'attore|02/03/2026|NULL|2",
-             "UDIENZA|12/03/2026|09:30|2"}));
+             "Note di trattazione dell'attore|02/03/2026|NULL|2", "UDIENZA|12/03/2026|09:30|2"}));
 }
 
 // One press is durable when its message is shown.

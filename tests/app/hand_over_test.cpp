@@ -60,8 +60,7 @@ TEST(HandOverOfAProfile, KeepsTheCollectionOfTaggedRowsGrowing) {
   WindowFixture fixture;
   fixture.Start();
   ASSERT_EQ(fixture.state().lstImport.taggedRows.size(), 3U);
-  fixture.Poke(
-      ProfilePage("633/2025", "Termini assegnati dal giudice\nNote: 20/03/2026\n\n"));
+  fixture.Poke(ProfilePage("633/2025", "Termini assegnati dal giudice\nNote: 20/03/2026\n\n"));
   EXPECT_EQ(fixture.state().lstImport.taggedRows.size(), 4U);
   EXPECT_EQ(fixture.state().lstImport.taggedRows.back(), 2U);
 }

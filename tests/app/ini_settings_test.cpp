@@ -62,9 +62,9 @@ TEST_F(IniSettingsRead, AnEmptyValueIsAnEmptyText) {
 }
 
 TEST_F(IniSettingsRead, PassesCommentsAndOtherLinesOver) {
-  EXPECT_EQ(Get("[Shared]\n;Id_Utente=1\n#Id_Utente=2\nrubbish\n\nId_Utente=3\n", "Shared",
-                "Id_Utente"),
-            "3");
+  EXPECT_EQ(
+      Get("[Shared]\n;Id_Utente=1\n#Id_Utente=2\nrubbish\n\nId_Utente=3\n", "Shared", "Id_Utente"),
+      "3");
 }
 
 TEST_F(IniSettingsRead, LeavesTheCarriageReturnOutOfTheValue) {

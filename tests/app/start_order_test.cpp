@@ -85,9 +85,9 @@ TEST(OrderOfTheStart, ThePageFileComesBehindTheCaption) {
 
 TEST(OrderOfTheStart, AnErrorIsToldToTheDiagnosticsAndDoesNotUnload) {
   FaultyStart start(Fault::kUser);
-  EXPECT_EQ(start.office.diagnostics.failed,
-            (std::vector<NotedError>{
-                {"", 13, "Tipo non corrispondente: \"ROSSI\"", std::nullopt}}));
+  EXPECT_EQ(
+      start.office.diagnostics.failed,
+      (std::vector<NotedError>{{"", 13, "Tipo non corrispondente: \"ROSSI\"", std::nullopt}}));
   EXPECT_EQ(start.settings.saved, (Texts{"Shared/OrdexHandle=4711"}));
 }
 

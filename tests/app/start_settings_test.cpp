@@ -52,10 +52,10 @@ TEST(StartWithoutADatabase, EndsWithTheDriversError) {
   fixture.cannotOpen = MakeError(ErrorNumber::kDatabase, "server spento");
   fixture.Start();
   EXPECT_EQ(fixture.window.ended(), EndReason::kError);
-  EXPECT_EQ(fixture.boxes.shown,
-            (std::vector<BoxText>{
-                {"Errore di run-time '-2147467259': Errore del database: server spento", "Ordex",
-                 BoxIcon::kStop, BoxButtons::kOk}}));
+  EXPECT_EQ(
+      fixture.boxes.shown,
+      (std::vector<BoxText>{{"Errore di run-time '-2147467259': Errore del database: server spento",
+                             "Ordex", BoxIcon::kStop, BoxButtons::kOk}}));
 }
 
 TEST(StartWithoutADatabase, OfAFileThatIsNotThereNamesTheFile) {

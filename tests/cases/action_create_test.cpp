@@ -109,9 +109,8 @@ TEST(ActionSecondPress, CreatesTheCaseTellsTheUserAndIsDone) {
   action.ReadyToCreate();
   EXPECT_EQ(action.Press(), ActionOutcome::kDone);
   EXPECT_EQ(action.written, (Cases{0}));
-  EXPECT_EQ(action.boxes.shown,
-            (Boxes{{"La pratica è stata creata.", "Pratica Praxion creata", BoxIcon::kInformation,
-                    BoxButtons::kOk}}));
+  EXPECT_EQ(action.boxes.shown, (Boxes{{"La pratica è stata creata.", "Pratica Praxion creata",
+                                        BoxIcon::kInformation, BoxButtons::kOk}}));
   EXPECT_FALSE(action.commands.bConferma);
   EXPECT_FALSE(action.commands.cmdAnnulla.enabled);
 }

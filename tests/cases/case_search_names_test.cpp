@@ -115,16 +115,16 @@ TEST_F(CaseSearch, PutsNamesBeforeSubjects) {
 }
 
 TEST_F(CaseSearch, NamesACaseOnceThatIsFoundInSeveralWays) {
-  office_.Do("UPDATE Pratica SET Oggetto = 'STARNOTTI', ControCognome = 'STARNOTTI' WHERE ID_Pra = 6");
+  office_.Do(
+      "UPDATE Pratica SET Oggetto = 'STARNOTTI', ControCognome = 'STARNOTTI' WHERE ID_Pra = 6");
   EXPECT_THAT(Find("STARNOTTI"), UnorderedElementsAre(6, 10));
 }
 
 // --- a title pasted whole -----------------------------------------------------------------------
 
 TEST_F(CaseSearch, FindsACaseByItsWholeTitle) {
-  EXPECT_THAT(
-      Find("EDILIZIA VALLEBRUNA S.R.L. / IMMOBILIARE PONTEMIRTO S.P.A. - R.G. 1842/2025"),
-      ElementsAre(2));
+  EXPECT_THAT(Find("EDILIZIA VALLEBRUNA S.R.L. / IMMOBILIARE PONTEMIRTO S.P.A. - R.G. 1842/2025"),
+              ElementsAre(2));
   EXPECT_THAT(Find("RUSTIGNÈ MAURO / COMUNE DI CASTELMIRTO - R.G. 4417/2025"), ElementsAre(8));
   EXPECT_THAT(Find("MOTTALINI BRUNO - R.G. 2210/2025"), ElementsAre(5));
 }

@@ -76,8 +76,7 @@ TEST_F(CercaPraticaTest, MoreCasesThan16BitsCanCountAreAnOverflow) {
 
 // --- a number that holds an apostrophe ----------------------------------------------------------
 
-class HostileNumber : public CercaPraticaTest,
-                      public ::testing::WithParamInterface<const char*> {};
+class HostileNumber : public CercaPraticaTest, public ::testing::WithParamInterface<const char*> {};
 
 TEST_P(HostileNumber, IsToldToTheHookAsItStandsAndThenRefused) {
   const Texts cases = office_.Rows("SELECT * FROM Pratica ORDER BY ID_Pra");

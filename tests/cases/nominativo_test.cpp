@@ -13,9 +13,8 @@ namespace {
 TEST(LeggiNominativo, AsksInTheseWords) {
   Office office(Office::Data::kSample);
   LeggiNominativo(office.database(), 4);
-  EXPECT_EQ(
-      office.diagnostics.sql,
-      (std::vector<std::string>{"SELECT Cognome,Nome From Anagrafica WHERE ID_Ana = 4"}));
+  EXPECT_EQ(office.diagnostics.sql,
+            (std::vector<std::string>{"SELECT Cognome,Nome From Anagrafica WHERE ID_Ana = 4"}));
 }
 
 TEST(LeggiNominativo, JoinsTrimmedSurnameAndFirstNameByAComma) {

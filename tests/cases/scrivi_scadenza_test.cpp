@@ -54,8 +54,7 @@ TEST(ScriviScadenza, StartsTwentyDaysBeforeAlsoAcrossMonthsAndYears) {
 TEST(ScriviScadenza, TwiceLeavesOneRefreshedRow) {
   AgendaFixture agenda;
   agenda.Deadline("10/06/2024", "Note");
-  agenda.office.Do(
-      "UPDATE SCADENZE SET Priorita = 3, Parti = 'x', Data_Start = NULL, IsMemo = 0");
+  agenda.office.Do("UPDATE SCADENZE SET Priorita = 3, Parti = 'x', Data_Start = NULL, IsMemo = 0");
   agenda.clock.now = {2026, 2, 21, 8, 0, 0};
   agenda.Deadline("10/06/2024", "Note");
   EXPECT_EQ(agenda.Agenda("Scadenza, Priorita, Data_Start, IsMemo, Parti, LastLocalUpdate"),

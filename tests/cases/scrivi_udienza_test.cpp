@@ -177,10 +177,10 @@ TEST(ScriviUdienza, AnErrorOfTheLastWriteIsAbsorbed) {
   agenda.office.connection().FailOn("INSERT SCADENZE");
   agenda.Hearing("12/03/2026");
   EXPECT_TRUE(agenda.Agenda("*").empty());
-  EXPECT_EQ(agenda.office.diagnostics.trapped,
-            (std::vector<NotedError>{{"ScriviUdienza", kDatabaseErrorNumber,
-                                      "Errore del database: errore chiesto dalla prova",
-                                      std::nullopt}}));
+  EXPECT_EQ(
+      agenda.office.diagnostics.trapped,
+      (std::vector<NotedError>{{"ScriviUdienza", kDatabaseErrorNumber,
+                                "Errore del database: errore chiesto dalla prova", std::nullopt}}));
 }
 
 }  // namespace

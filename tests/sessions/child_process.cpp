@@ -86,7 +86,7 @@ ChildProcess::ChildProcess(const ProcessTask& task, Clock::time_point deadline)
 ChildProcess::~ChildProcess() {
   CloseInput();
   if (id_ > 0) {
-    kill(id_, SIGKILL);
+    Kill();
     Reap();
   }
   for (const int end : {outputPipe_, errorPipe_}) {
@@ -140,11 +140,15 @@ bool ChildProcess::ReadUntil(const std::function<bool(const std::string& output)
   return true;
 }
 
+void ChildProcess::Kill() const {
+  kill(id_, SIGKILL);
+}
+
 void ChildProcess::Finish() {
   CloseInput();
   while (ReadSome()) {
   }
-  if (timedOut_) kill(id_, SIGKILL);
+  if (timedOut_) Kill();
   Reap();
 }
 

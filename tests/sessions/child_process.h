@@ -35,6 +35,8 @@ class ChildProcess {
   // Reads its output until `enough` is content with it or the process has closed it. False at the
   // deadline.
   bool ReadUntil(const std::function<bool(const std::string& output)>& enough);
+  // Ends it by force, as a power cut would.
+  void Kill() const;
   // Closes its standard input and waits for its end.
   void Finish();
 

@@ -14,6 +14,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::size_t kLongestLineShown = 6000;
+constexpr std::string_view kKill = "!kill";
 
 bool HoldsOwnCommands(const RunTask& task) {
   for (const std::string& command : task.commands) {
@@ -52,10 +53,15 @@ std::size_t CountStates(std::string_view output) {
   return count;
 }
 
-void DoBetween(const std::string& command, const Workplace& workplace) {
+void DoBetween(const std::string& command, const Workplace& workplace, ChildProcess& console) {
   constexpr std::string_view kSql = "!sql ";
-  if (!command.starts_with(kSql)) throw std::runtime_error("no command of the runner: " + command);
-  RunSql(workplace.database(), command.substr(kSql.size()));
+  if (command == kKill) {
+    console.Kill();
+  } else if (command.starts_with(kSql)) {
+    RunSql(workplace.database(), command.substr(kSql.size()));
+  } else {
+    throw std::runtime_error("no command of the runner: " + command);
+  }
 }
 
 // Feeds the commands one after the other. Before each of ours the console is asked for its state:
@@ -71,7 +77,7 @@ void Feed(const RunTask& task, const Workplace& workplace, ChildProcess& console
     console.Write("state\n");
     ++states;
     console.ReadUntil([&](const std::string& output) { return CountStates(output) >= states; });
-    DoBetween(command, workplace);
+    DoBetween(command, workplace, console);
   }
 }
 
@@ -170,8 +176,9 @@ RunOutcome RunConsole(const RunTask& task, const Workplace& workplace) {
   if (outcome.timedOut) {
     outcome.fault = "the time limit of " + std::to_string(task.timeLimit.count()) + " s is over";
   } else if (task.arguments.empty()) {
+    const bool killed = !task.commands.empty() && task.commands.back() == kKill;
     ReadEvents(console.output(), outcome);
-    CheckEnd(outcome);
+    if (!killed) CheckEnd(outcome);
   }
   return outcome;
 }

@@ -17,7 +17,8 @@ struct RunTask {
   std::vector<std::string> arguments;  // in place of the usual ones, where there are any
   std::vector<std::string> options;    // besides the usual arguments
   std::string now;
-  // A line "!sql TEXT" is none of the console's: at this place another program changes the database.
+  // Two lines are none of the console's: at "!sql TEXT" another program changes the database, at
+  // "!kill" the console is ended by force.
   std::vector<std::string> commands;
   bool asNobody = false;
   std::chrono::milliseconds lock{0};  // so long another program holds the database

@@ -39,6 +39,7 @@ constexpr std::array kKeywords = {
     Keyword{"mapping-add", Form::kArgument},
     Keyword{"mapping-without", Form::kArgument},
     Keyword{"mapping-absent", Form::kArgument},
+    Keyword{"mapping-windows-1252", Form::kArgument},
     Keyword{"now", Form::kArgument},
     Keyword{"options", Form::kArgument},
     Keyword{"lock", Form::kArgument},

@@ -29,6 +29,23 @@ std::string WithoutIndent(const std::string& line) {
   return line.substr(std::min(line.find_first_not_of(' '), line.size()));
 }
 
+// For texts whose accented letters are those of Western Europe: two bytes of UTF-8 become one.
+std::string ToWindows1252(std::string_view text) {
+  std::string bytes;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(text[i]);
+    if (byte < 0x80) {
+      bytes.push_back(text[i]);
+    } else if ((byte == 0xC2 || byte == 0xC3) && i + 1 < text.size()) {
+      const auto next = static_cast<unsigned char>(text[++i]);
+      bytes.push_back(static_cast<char>(byte == 0xC3 ? next + 0x40 : next));
+    } else {
+      throw std::runtime_error("a character that this runner cannot write in Windows-1252");
+    }
+  }
+  return bytes;
+}
+
 class Runner {
  public:
   Runner(const SessionSetup& setup, const FailureReport& report)
@@ -69,6 +86,7 @@ class Runner {
         {"mapping-add", &Runner::MappingAdd},
         {"mapping-without", &Runner::MappingWithout},
         {"mapping-absent", &Runner::MappingAbsent},
+        {"mapping-windows-1252", &Runner::MappingWindows1252},
         {"now", &Runner::Now},
         {"options", &Runner::Options},
         {"lock", &Runner::Lock},
@@ -184,6 +202,10 @@ class Runner {
   }
 
   void MappingAbsent(const Step& step) { workplace_.RemoveMapping(step.argument); }
+
+  void MappingWindows1252(const Step& step) {
+    workplace_.WriteMapping(step.argument, ToWindows1252(workplace_.Mapping(step.argument)));
+  }
 
   void Now(const Step& step) { task_.now = step.argument; }
   void Options(const Step& step) { task_.options = Words(step.argument); }

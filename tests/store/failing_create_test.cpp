@@ -100,8 +100,8 @@ TEST(FailingCreate, InThePersonSearchIsShownAndTheCaseIsCreatedWithoutAClient) {
 
 TEST(FailingCreate, BeforeTheCaseRowKeepsThePersonAlone) {
   const Outcome personAlone = {false, 0, "1", "0", "0"};
-  for (const Step step : {kBegin, kOpenPosition, kReadPosition, kOpenPositionAgain,
-                          kReadPositionAgain, kAddCase}) {
+  for (const Step step :
+       {kBegin, kOpenPosition, kReadPosition, kOpenPositionAgain, kReadPositionAgain, kAddCase}) {
     EXPECT_EQ(CreateWithFailureAt(step, false), personAlone) << "statement " << step;
   }
 }
@@ -136,10 +136,10 @@ TEST(FailingCreate, TellsTheErrorToTheDiagnosticsAlone) {
   CaseRecordFixture record;
   record.office.connection().FailOn("INSERT Pratica");
   EXPECT_FALSE(record.Create());
-  EXPECT_EQ(record.office.diagnostics.trapped,
-            (std::vector<NotedError>{{"RegistraPratica", kDatabaseErrorNumber,
-                                      "Errore del database: errore chiesto dalla prova",
-                                      std::nullopt}}));
+  EXPECT_EQ(
+      record.office.diagnostics.trapped,
+      (std::vector<NotedError>{{"RegistraPratica", kDatabaseErrorNumber,
+                                "Errore del database: errore chiesto dalla prova", std::nullopt}}));
   EXPECT_TRUE(record.person.boxes.shown.empty());
 }
 

@@ -27,21 +27,19 @@ TEST_P(CompanyMark, MakesTheNameACompany) {
 
 INSTANTIATE_TEST_SUITE_P(
     AllTwentySeven, CompanyMark,
-    ::testing::Values(MarkedName{1, "OLMETO S.A.S"}, MarkedName{2, "OLMETO S.P.A"},
-                      MarkedName{3, "OLMETO S.S."}, MarkedName{4, "OLMETO S.N.C"},
-                      MarkedName{5, "OLMETO S.R.L"}, MarkedName{6, "OLMETO & C."},
-                      MarkedName{7, "OLMETO SNC"}, MarkedName{8, "OLMETO SPA MONTEFOSCO"},
-                      MarkedName{9, "OLMETO SRL"}, MarkedName{10, "OLMETO SAS MONTEFOSCO"},
-                      MarkedName{11, "OLMETO S.A.S."}, MarkedName{12, "OLMETO S.P.A."},
-                      MarkedName{13, "OLMETO S.N.C."}, MarkedName{14, "OLMETO S.R.L."},
-                      MarkedName{15, "OLMETO A.R.L."}, MarkedName{16, "ROSSI & FIGLI"},
-                      MarkedName{17, "ROSSI E BIANCHI"}, MarkedName{18, "MARIA DI MAIO"},
-                      MarkedName{19, "ROSSI-BIANCHI LUCA"}, MarkedName{20, "OLMETO A.R.L"},
-                      MarkedName{21, "OLMETO ARL"}, MarkedName{22, "BIANCHI SPA"},
-                      MarkedName{23, "OLMETO SAS"}, MarkedName{24, "OLMETO ARL MONTEFOSCO"},
-                      MarkedName{25, "DOTT. ROSSI MARIO"},
-                      MarkedName{26, "MINISTERO DELLA GIUSTIZIA"},
-                      MarkedName{27, "Condominio Via Roma 3"}),
+    ::testing::Values(
+        MarkedName{1, "OLMETO S.A.S"}, MarkedName{2, "OLMETO S.P.A"}, MarkedName{3, "OLMETO S.S."},
+        MarkedName{4, "OLMETO S.N.C"}, MarkedName{5, "OLMETO S.R.L"}, MarkedName{6, "OLMETO & C."},
+        MarkedName{7, "OLMETO SNC"}, MarkedName{8, "OLMETO SPA MONTEFOSCO"},
+        MarkedName{9, "OLMETO SRL"}, MarkedName{10, "OLMETO SAS MONTEFOSCO"},
+        MarkedName{11, "OLMETO S.A.S."}, MarkedName{12, "OLMETO S.P.A."},
+        MarkedName{13, "OLMETO S.N.C."}, MarkedName{14, "OLMETO S.R.L."},
+        MarkedName{15, "OLMETO A.R.L."}, MarkedName{16, "ROSSI & FIGLI"},
+        MarkedName{17, "ROSSI E BIANCHI"}, MarkedName{18, "MARIA DI MAIO"},
+        MarkedName{19, "ROSSI-BIANCHI LUCA"}, MarkedName{20, "OLMETO A.R.L"},
+        MarkedName{21, "OLMETO ARL"}, MarkedName{22, "BIANCHI SPA"}, MarkedName{23, "OLMETO SAS"},
+        MarkedName{24, "OLMETO ARL MONTEFOSCO"}, MarkedName{25, "DOTT. ROSSI MARIO"},
+        MarkedName{26, "MINISTERO DELLA GIUSTIZIA"}, MarkedName{27, "Condominio Via Roma 3"}),
     [](const auto& test) { return "Mark" + std::to_string(test.param.mark); });
 
 class NearMark : public ::testing::TestWithParam<const char*> {};
@@ -50,11 +48,12 @@ TEST_P(NearMark, LeavesTheNameAPerson) {
   EXPECT_FALSE(IsSocieta(GetParam()));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Persons, NearMark,
-    ::testing::Values("ROSSI MARIO", "", "SPADA MARIO", "SPA MARIO", "SAS MARIO", "ARL MARIO",
-                      "ROSSISPA", "ROSSISAS", "CARL", "DI MAIO LUIGI", "E BIANCHI MARIO",
-                      "ROSSI E", "ROSSI DI", "ROSSI\tSPA", "ROSSI  MARIO", "D'AMICO LUCA"));
+INSTANTIATE_TEST_SUITE_P(Persons, NearMark,
+                         ::testing::Values("ROSSI MARIO", "", "SPADA MARIO", "SPA MARIO",
+                                           "SAS MARIO", "ARL MARIO", "ROSSISPA", "ROSSISAS", "CARL",
+                                           "DI MAIO LUIGI", "E BIANCHI MARIO", "ROSSI E",
+                                           "ROSSI DI", "ROSSI\tSPA", "ROSSI  MARIO",
+                                           "D'AMICO LUCA"));
 
 TEST(IsSocieta, IgnoresLetterCaseOfTheMarks) {
   EXPECT_TRUE(IsSocieta("olmeto spa"));

@@ -63,9 +63,9 @@ TEST_F(PersonCardText, WritesTheNameInCapitals) {
 }
 
 TEST_F(PersonCardText, OfAPersonWhoseSexIsNotMIsFeminine) {
-  EXPECT_EQ(CardOf("Cognome, Nome, IsFisicaGiuridica, LuogoNascita",
-                   "'ROSSI', 'ANNA', 1, 'MONTEFOSCO'"),
-            "ROSSI  ANNA\r\n\r\nnata in MONTEFOSCO");
+  EXPECT_EQ(
+      CardOf("Cognome, Nome, IsFisicaGiuridica, LuogoNascita", "'ROSSI', 'ANNA', 1, 'MONTEFOSCO'"),
+      "ROSSI  ANNA\r\n\r\nnata in MONTEFOSCO");
 }
 
 TEST_F(PersonCardText, WithABirthDateAloneKeepsTheBlankOfBothPieces) {

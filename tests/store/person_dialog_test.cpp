@@ -125,9 +125,8 @@ TEST(EmailLink, ThatCannotBeOpenedIsToldToTheUser) {
   person.Fill(4);
   person.desktop.openSucceeds = false;
   person.dialog.lblInfo2_Click();
-  EXPECT_EQ(person.boxes.shown,
-            (std::vector<BoxText>{{"Impossibile aprire e-mail !", "Praxion", BoxIcon::kInformation,
-                                   BoxButtons::kOk}}));
+  EXPECT_EQ(person.boxes.shown, (std::vector<BoxText>{{"Impossibile aprire e-mail !", "Praxion",
+                                                       BoxIcon::kInformation, BoxButtons::kOk}}));
 }
 
 TEST(EmailLink, LeavesTheLabelsWordsOutOfTheAddress) {
@@ -150,8 +149,7 @@ TEST(EmailLink, BlanksQuotesPercentSignsLineEndsAndForeignLettersAreEscaped) {
   PersonFixture person;
   person.card.lblInfo2 = "a \"b\"%20\r\nè@c.example";
   person.dialog.lblInfo2_Click();
-  EXPECT_EQ(person.desktop.events,
-            (Texts{"Open mailto:a%20%22b%22%2520%0D%0A%C3%A8@c.example"}));
+  EXPECT_EQ(person.desktop.events, (Texts{"Open mailto:a%20%22b%22%2520%0D%0A%C3%A8@c.example"}));
 }
 
 TEST(EmailLink, SemicolonsSlashesAndColonsAreEscaped) {

@@ -14,8 +14,7 @@ using Texts = std::vector<std::string>;
 TEST(PortalProfile, IsLookedUpInTheseWords) {
   ProfileFixture profile;
   profile.Write(7);
-  EXPECT_EQ(profile.office.diagnostics.sql,
-            (Texts{"SELECT * from PraOrdex where ID_PraRel = 7"}));
+  EXPECT_EQ(profile.office.diagnostics.sql, (Texts{"SELECT * from PraOrdex where ID_PraRel = 7"}));
 }
 
 TEST(PortalProfile, OfACaseWithoutOneIsAdded) {

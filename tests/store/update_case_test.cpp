@@ -39,9 +39,8 @@ TEST(UpdateCase, TouchesNoOtherColumnAndNoOtherCase) {
 TEST(UpdateCase, LooksForNoPersonAndComputesNoPosition) {
   CaseRecordFixture record(Office::Data::kSample);
   ASSERT_TRUE(record.Write(3));
-  EXPECT_EQ(record.office.diagnostics.sql,
-            (Texts{"SELECT * FROM Pratica WHERE Id_Pra = 3",
-                   "SELECT * from PraOrdex where ID_PraRel = 3"}));
+  EXPECT_EQ(record.office.diagnostics.sql, (Texts{"SELECT * FROM Pratica WHERE Id_Pra = 3",
+                                                  "SELECT * from PraOrdex where ID_PraRel = 3"}));
 }
 
 TEST(UpdateCase, KeepsSectionJudgeAndSubjectThatThePageDoesNotHold) {

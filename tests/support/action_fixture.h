@@ -23,11 +23,11 @@ struct ActionFixture {
 
   ActionOutcome Press() {
     const Database database = office.database();
-    return cmdAzione_Click({database, page, choice, commands, control, boxes, desktop,
-                            [this](std::int32_t idPra) {
-                              written.push_back(idPra);
-                              return succeeds;
-                            }});
+    return cmdAzione_Click(
+        {database, page, choice, commands, control, boxes, desktop, [this](std::int32_t idPra) {
+           written.push_back(idPra);
+           return succeeds;
+         }});
   }
   // The user has agreed to create a case and chosen client and counterpart.
   void ReadyToCreate() {

@@ -11,9 +11,7 @@
 namespace ordex::testing {
 
 struct AgendaFixture {
-  explicit AgendaFixture(std::string number = "1842/2025") {
-    page.szNumeroRG = std::move(number);
-  }
+  explicit AgendaFixture(std::string number = "1842/2025") { page.szNumeroRG = std::move(number); }
 
   // Hands the value to the hearing's routine as the page's next hearing.
   void Hearing(std::string value) {

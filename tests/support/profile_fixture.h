@@ -10,9 +10,7 @@
 namespace ordex::testing {
 
 struct ProfileFixture {
-  void Value(std::string value, std::string_view key) {
-    page.cDatiFasc.Add(std::move(value), key);
-  }
+  void Value(std::string value, std::string_view key) { page.cDatiFasc.Add(std::move(value), key); }
   // A review row; returns nothing, its index is its place.
   void Row(const std::string& label, const std::string& value, const std::string& tag) {
     lstImport.rows.push_back({"", {label, value, ""}, tag});

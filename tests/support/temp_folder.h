@@ -76,7 +76,7 @@ inline std::string SourceFile(const std::filesystem::path& name) {
 class TempProgramFolder : public TempFolder {
  public:
   TempProgramFolder() {
-    for (const char* name : {kMapCampi, kMapRestr, kMapDelimitatori}) {
+    for (const std::string_view name : {kMapCampi, kMapRestr, kMapDelimitatori}) {
       Write(name, SourceFile(std::filesystem::path("mapping") / name));
     }
   }
