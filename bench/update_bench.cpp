@@ -33,13 +33,14 @@ struct Office {
     testing::FakeDesktop desktop;
     testing::FakeClipboard clipboard(pageText);
     testing::RecordingDiagnostics diagnostics;
+    testing::RecordingProgress progress;
     testing::FakeSettings settings;
     settings.values[{"startup", "Server"}] = "Data Source=file:office.db";
     settings.values[{"Shared", "Id_Utente"}] = "3";
     // Another second each time, so that there is something to write.
     clock.now.second = (clock.now.second + 1) % 60;
     MainWindow window(folder.path(), {boxes, dialogs, desktop, clipboard, clock, settings,
-                                      diagnostics, [this](std::string_view connectionString) {
+                                      diagnostics, progress, [this](std::string_view connectionString) {
                                         return OpenConnection(connectionString, folder.path());
                                       }});
     window.Start("0");

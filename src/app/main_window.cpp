@@ -30,7 +30,13 @@ MainWindow::MainWindow(std::filesystem::path programFolder, const World& world)
     : programFolder_(std::move(programFolder)),
       world_(world),
       frmInfoAnagrafica_(window_.personCard, window_.commands.bCollegareAna, world.dialogs,
-                         world.desktop, world.boxes) {}
+                         world.desktop, world.boxes),
+      dlgParti_(
+          window_.partiesForm, window_.page, window_.mappings,
+          [this](std::string_view szSoggetto, std::string_view szDifensore) {
+            LoadcmbParti(window_.choice, szSoggetto, szDifensore);
+          },
+          world.dialogs, world.desktop, world.boxes) {}
 
 // An error that nothing traps is reported as the platform would, and ends the program; the window
 // is not unloaded then.
@@ -168,10 +174,12 @@ void MainWindow::cmdAzione_Click() {
                                  frmInfoAnagrafica_,
                                  world_.boxes,
                                  world_.clock,
-                                 agenda};
+                                 agenda,
+                                 world_.progress};
   const ActionOutcome outcome = ordex::cmdAzione_Click(
-      {*database_, window_.page, window_.choice, window_.commands, ctlTestata1_, world_.boxes,
-       world_.desktop, [&record](std::int32_t idPra) { return RegistraPratica(record, idPra); }});
+      {*database_, window_.page, window_.choice, window_.commands, ctlTestata1_, window_.status,
+       window_.lstAgendaAvv, world_.boxes, world_.desktop, [this] { dlgParti_.ShowModal(); },
+       [&record](std::int32_t idPra) { return RegistraPratica(record, idPra); }});
   if (outcome == ActionOutcome::kGoOn) return;
   Form_Unload();
   End(outcome == ActionOutcome::kDone ? EndReason::kDone : EndReason::kFailed);

@@ -20,6 +20,7 @@
 #include "state/ports.h"
 #include "state/window.h"
 #include "store/db/db_record.h"
+#include "store/parties_dialog.h"
 #include "store/person_dialog.h"
 
 namespace ordex {
@@ -41,6 +42,7 @@ struct World {
   Clock& clock;
   Settings& settings;
   Diagnostics& diagnostics;
+  Progress& progress;
   // Opens the database that an OLE DB connection string names.
   std::function<std::unique_ptr<Connection>(std::string_view connectionString)> openDatabase;
 };
@@ -53,6 +55,7 @@ class MainWindow {
   const Window& state() const { return window_; }
   const std::optional<EndReason>& ended() const { return ended_; }
   PersonDialog& frmInfoAnagrafica() { return frmInfoAnagrafica_; }
+  PartiesDialog& dlgParti() { return dlgParti_; }
 
   // Creates and loads the window of the first instance. `handle` is what the desktop calls it.
   void Start(std::string_view handle);
@@ -98,6 +101,7 @@ class MainWindow {
   void PrepareForKind();
   void FindCaseOfPage();
   void TakeFurtherProfile();
+  void TakeFurtherHistory();
   void cmdAzione_Click();
   void ctlTestata1_Event10(DbRecord& person);
 
@@ -106,6 +110,7 @@ class MainWindow {
   Window window_;
   CaseHeaderControl ctlTestata1_{window_.choice.ctlTestata1};
   PersonDialog frmInfoAnagrafica_;
+  PartiesDialog dlgParti_;
   std::unique_ptr<Connection> connection_;
   std::optional<Database> database_;
   std::optional<EndReason> ended_;

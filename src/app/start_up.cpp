@@ -116,9 +116,13 @@ void MainWindow::PrepareForKind() {
   Button& cmdAzione = window_.commands.cmdAzione;
   switch (window_.page.iOrdexPage) {
     case kPageProfile:
+      window_.frmMain.height = kClosedHeight;
+      FindCaseOfPage();
+      break;
     case kPageJusticeOfThePeace:
       window_.frmMain.height = kClosedHeight;
       FindCaseOfPage();
+      window_.choice.ctlTestata1.searchText = window_.page.szNumeroRG;
       break;
     case kPageHistory:
       window_.frmMain.height = kClosedHeight;
@@ -155,6 +159,14 @@ void MainWindow::TakeFurtherProfile() {
   pageFile.Delete();
 }
 
+// Unlike a profile page, a further history page adds its rows to those that are there, and its page
+// file stays.
+void MainWindow::TakeFurtherHistory() {
+  SetCaption();
+  TxtfromClipboard(programFolder_, window_.page.szNameTxt, world_.clipboard);
+  ImportPage();
+}
+
 void MainWindow::lblLinkDDE_Change() {
   if (!RiconosciPagina(window_.mappings, window_.page, window_.paging, world_.clipboard,
                        world_.boxes)) {
@@ -163,6 +175,10 @@ void MainWindow::lblLinkDDE_Change() {
   }
   if (window_.page.pageAtOpening == kPageProfile && window_.page.iOrdexPage == kPageProfile) {
     TakeFurtherProfile();
+    return;
+  }
+  if (window_.page.pageAtOpening == kPageHistory && window_.page.iOrdexPage == kPageHistory) {
+    TakeFurtherHistory();
     return;
   }
   world_.desktop.Beep();

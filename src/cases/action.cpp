@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "cases/agenda_action.h"
 #include "cases/case_choice_rules.h"
 
 namespace ordex {
@@ -61,6 +62,7 @@ void OfferCreate(const ActionTask& task) {
   task.commands.cmdAzione.caption = "Conferma";
   task.commands.cmdAzione.symbol = kSymbolUpdate;
   task.commands.cmdAnnulla.enabled = true;
+  if (task.page.pageAtOpening == kPageJusticeOfThePeace) task.ShowParties();
 }
 
 bool RefusesPenalCase(const ActionTask& task) {
@@ -107,6 +109,22 @@ ActionOutcome CreateOrUpdate(const ActionTask& task) {
   return UpdateCase(task);
 }
 
+// The case may have been cleared after it was chosen: then nothing is written.
+ActionOutcome UpdateHistory(const ActionTask& task) {
+  if (ShowsNoCase(task.choice.ctlTestata1)) {
+    task.status = {"Exclamation", "Selezionare una pratica."};
+    return ActionOutcome::kGoOn;
+  }
+  if (RefusesPenalCase(task)) return ActionOutcome::kGoOn;
+  return UpdateCase(task);
+}
+
+ActionOutcome UpdateAgenda(const ActionTask& task) {
+  WriteAgenda(task.database, task.lstAgendaAvv);
+  task.boxes.Show(Information("L'Agenda di Praxion è stata aggiornata !", "Operazione effettuata"));
+  return ActionOutcome::kGoOn;
+}
+
 }  // namespace
 
 ActionOutcome cmdAzione_Click(const ActionTask& task) {
@@ -114,6 +132,10 @@ ActionOutcome cmdAzione_Click(const ActionTask& task) {
     case kPageProfile:
     case kPageJusticeOfThePeace:
       return CreateOrUpdate(task);
+    case kPageHistory:
+      return UpdateHistory(task);
+    case kPageAgenda:
+      return UpdateAgenda(task);
     default:
       return ActionOutcome::kGoOn;
   }

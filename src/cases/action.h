@@ -8,6 +8,7 @@
 #include "state/commands.h"
 #include "state/page.h"
 #include "state/ports.h"
+#include "state/review_list.h"
 #include "store/db/db_record.h"
 
 namespace ordex {
@@ -25,13 +26,17 @@ struct ActionTask {
   CaseChoice& choice;
   Commands& commands;
   CaseHeaderControl& ctlTestata1;
+  StatusBar& status;
+  const AgendaList& lstAgendaAvv;
   MessageBoxes& boxes;
   Desktop& desktop;
+  // Shows the parties dialog, on a page that masks the parties' names.
+  std::function<void()> ShowParties;
   // Creates (0) or updates the case with that ID_Pra; false where it failed.
   std::function<bool(std::int32_t idPra)> RegistraPratica;
 };
 
-// Errors: of the database, outside RegistraPratica.
+// Errors: of the database, outside RegistraPratica; of the agenda's entries.
 ActionOutcome cmdAzione_Click(const ActionTask& task);
 
 }  // namespace ordex

@@ -99,6 +99,7 @@ class Dialogs {
  public:
   virtual ~Dialogs() = default;
   virtual void ShowPersonCard() = 0;
+  virtual void ShowParties() = 0;
 };
 
 // Told how far a long piece of work has come.

@@ -37,6 +37,7 @@ struct Window {
   Commands commands;
   StatusBar status;
   PersonCard personCard;
+  PartiesForm partiesForm;
 };
 
 }  // namespace ordex

@@ -2,7 +2,9 @@
 
 #include <string>
 
+#include "base/number.h"
 #include "store/db/transaction.h"
+#include "store/history_events.h"
 #include "store/persons.h"
 
 namespace ordex {
@@ -44,7 +46,8 @@ void SetPageColumns(DbRecord& record, const Page& page) {
   if (page.pageAtOpening == kPageProfile) {
     record.Set("NumeroRegGenerale", page.cDatiFasc.Item("NumeroRegGenerale"));
     SetIfRead(record, page.cDatiFasc, "Sezione");
-  } else {
+  } else if (!page.szNumeroRG.empty()) {
+    // A history page carries no number: the stored one is left alone.
     record.Set("NumeroRegGenerale", page.szNumeroRG);
   }
   SetIfRead(record, page.cDatiFasc, "Istruttore");
@@ -63,23 +66,70 @@ std::int32_t WriteCaseRow(DbRecord& record, const CaseRecordTask& task, bool cre
   return AsInt32(record.Get("ID_Pra"));
 }
 
+void RefreshEvents(const CaseRecordTask& task, std::int32_t idPra) {
+  for (std::size_t i = 0; i < task.lstImport.rows.size(); ++i) {
+    const ReviewRow row = task.lstImport.rows[i];
+    RegistraEventi(task.database, ToInt16(row.text), idPra, row, task.clock);
+    task.progress.Advance(i + 1, task.lstImport.rows.size());
+  }
+}
+
+// The history that a justice-of-the-peace page brings along replaces the stored one as a whole.
+void ReplaceEvents(const CaseRecordTask& task, std::int32_t idPra) {
+  std::int32_t progressivo = 0;
+  for (std::size_t i = 0; i < task.lstImport.rows.size(); ++i) {
+    const ReviewRow row = task.lstImport.rows[i];
+    if (row.text != "Storico") continue;
+    if (++progressivo == 1) {
+      Execute(task.database,
+              "Delete from EventiPraOrdex where ID_PraRel = " + std::to_string(idPra));
+    }
+    RegistraEvento(task.database, row, idPra, progressivo, task.clock);
+    task.progress.Advance(i + 1, task.lstImport.rows.size());
+  }
+}
+
+void OpenCase(DbRecord& record, const CaseRecordTask& task, std::int32_t idPra) {
+  record.Open(task.database, "SELECT * FROM Pratica WHERE Id_Pra = " + std::to_string(idPra),
+              kForChanges);
+}
+
+// A history page is for a case that exists; its events come first.
+void RegisterHistoryPage(const CaseRecordTask& task, std::int32_t idPra) {
+  InTransaction(task.database, [&] {
+    RefreshEvents(task, idPra);
+    DbRecord record;
+    OpenCase(record, task, idPra);
+    const std::int32_t written = WriteCaseRow(record, task, false, 0);
+    RegistraDatiOrdex(task.database, written, task.page, task.lstImport, task.clock, task.agenda);
+  });
+}
+
+void RegisterCasePage(const CaseRecordTask& task, std::int32_t idPra) {
+  DbRecord record;
+  OpenCase(record, task, idPra);
+  const bool create = idPra == 0;
+  std::int32_t idCliente = 0;
+  if (create) {
+    idCliente = CercaAnagrafica(task.database, task.choice.cmbParti[kBoxClient].Text(),
+                                task.frmInfoAnagrafica, task.bCollegareAna, task.boxes);
+  }
+  InTransaction(task.database, [&] {
+    const std::int32_t written = WriteCaseRow(record, task, create, idCliente);
+    RegistraDatiOrdex(task.database, written, task.page, task.lstImport, task.clock, task.agenda);
+    ReplaceEvents(task, written);
+  });
+}
+
 }  // namespace
 
 bool RegistraPratica(const CaseRecordTask& task, std::int32_t idPra) {
   return TrapErrors(task.database, "RegistraPratica", [&] {
-    DbRecord record;
-    record.Open(task.database, "SELECT * FROM Pratica WHERE Id_Pra = " + std::to_string(idPra),
-                kForChanges);
-    const bool create = idPra == 0;
-    std::int32_t idCliente = 0;
-    if (create) {
-      idCliente = CercaAnagrafica(task.database, task.choice.cmbParti[kBoxClient].Text(),
-                                  task.frmInfoAnagrafica, task.bCollegareAna, task.boxes);
+    if (task.page.pageAtOpening == kPageHistory) {
+      RegisterHistoryPage(task, idPra);
+    } else {
+      RegisterCasePage(task, idPra);
     }
-    InTransaction(task.database, [&] {
-      const std::int32_t written = WriteCaseRow(record, task, create, idCliente);
-      RegistraDatiOrdex(task.database, written, task.page, task.lstImport, task.clock, task.agenda);
-    });
   });
 }
 

@@ -25,6 +25,7 @@ struct CaseRecordTask {
   MessageBoxes& boxes;
   const Clock& clock;
   HearingAgenda& agenda;
+  Progress& progress;
 };
 
 // Creates a case (idPra 0) or refreshes the one with that ID_Pra. After the client has been found

@@ -14,8 +14,8 @@
 namespace ordex::sessions {
 
 struct ProcessTask {
-  std::vector<std::string> command;  // the program and its arguments
-  std::filesystem::path folder;      // where it runs
+  std::vector<std::string> command;                              // the program and its arguments
+  std::filesystem::path folder;                                  // where it runs
   std::vector<std::pair<std::string, std::string>> environment;  // besides our own
   bool asNobody = false;  // as an unprivileged user, where we are root
 };

@@ -43,7 +43,9 @@ std::vector<std::string> Program(const RunTask& task, const Workplace& workplace
   return {copy.string()};
 }
 
+// Of the lines that are whole already.
 std::size_t CountStates(std::string_view output) {
+  output = output.substr(0, output.rfind('\n') + 1);
   std::size_t count = 0;
   constexpr std::string_view kState = R"({"event":"state")";
   for (std::size_t at = output.find(kState); at != std::string_view::npos;

@@ -44,12 +44,23 @@ std::string Escaped(std::string_view value) {
   std::string text;
   for (const char character : value) {
     switch (character) {
-      case '\\': text.append("\\\\"); break;
-      case '|': text.append("\\|"); break;
-      case '\r': text.append("\\r"); break;
-      case '\n': text.append("\\n"); break;
-      case '\t': text.append("\\t"); break;
-      default: text.push_back(character);
+      case '\\':
+        text.append("\\\\");
+        break;
+      case '|':
+        text.append("\\|");
+        break;
+      case '\r':
+        text.append("\\r");
+        break;
+      case '\n':
+        text.append("\\n");
+        break;
+      case '\t':
+        text.append("\\t");
+        break;
+      default:
+        text.push_back(character);
     }
   }
   return text;

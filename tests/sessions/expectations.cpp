@@ -49,8 +49,10 @@ std::optional<std::string> FindNext(const std::vector<Json>& events, const Json&
 
 std::optional<std::string> CountDifference(const std::vector<Json>& events, const Json& expected,
                                            std::size_t count) {
-  const auto found = static_cast<std::size_t>(std::count_if(
-      events.begin(), events.end(), [&](const Json& event) { return !Difference(expected, event); }));
+  const auto found =
+      static_cast<std::size_t>(std::count_if(events.begin(), events.end(), [&](const Json& event) {
+        return !Difference(expected, event);
+      }));
   if (found == count) return std::nullopt;
   return "expected " + std::to_string(count) + " such events, found " + std::to_string(found) +
          ": " + expected.dump();

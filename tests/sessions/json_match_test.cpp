@@ -50,8 +50,7 @@ TEST(TypeDifference, TheKindsOfValuesAreCompared) {
 
 TEST(TypeDifference, AListOfOneKindHasAnyLengthAndAnotherJustItsOwn) {
   EXPECT_EQ(TypeDifferenceOf(R"(["number"])", "[]"), "none");
-  EXPECT_EQ(TypeDifferenceOf(R"(["number"])", "[1,2,\"3\"]"),
-            "/2: expected number, found \"3\"");
+  EXPECT_EQ(TypeDifferenceOf(R"(["number"])", "[1,2,\"3\"]"), "/2: expected number, found \"3\"");
   EXPECT_EQ(TypeDifferenceOf(R"(["string","string"])", R"(["a","b"])"), "none");
   EXPECT_EQ(TypeDifferenceOf(R"(["string","string"])", R"(["a"])"),
             "/: expected 2 elements, found 1");

@@ -197,8 +197,7 @@ class Runner {
   void MappingWithout(const Step& step) {
     const std::vector<std::string> words = WordsOf(step, 2);
     const std::string text = "\n" + workplace_.Mapping(words[0]);
-    workplace_.WriteMapping(
-        words[0], Replaced(step, text, "\n" + words[1] + "\n", "\n").substr(1));
+    workplace_.WriteMapping(words[0], Replaced(step, text, "\n" + words[1] + "\n", "\n").substr(1));
   }
 
   void MappingAbsent(const Step& step) { workplace_.RemoveMapping(step.argument); }

@@ -27,7 +27,9 @@ class SessionRunner : public ::testing::Test {
     std::vector<Failure> failures;
     RunSession(ParseSession(session),
                {ORDEX_SOURCE_DIR, {"/bin/sh", (folder_.path() / "console.sh").string()}, timeLimit},
-               [&](std::size_t line, const std::string& text) { failures.push_back({line, text}); });
+               [&](std::size_t line, const std::string& text) {
+                 failures.push_back({line, text});
+               });
     return failures;
   }
 
@@ -43,18 +45,19 @@ bool Begins(const std::vector<Failure>& failures, std::size_t line, const std::s
 }
 
 TEST_F(SessionRunner, ASessionThatIsAsExpectedReportsNothing) {
-  const auto failures = Run(kPlain,
-                            "run\nend\nexit 0\n"
-                            "event {\"event\":\"state\",\"frmMain\":{\"height\":4320}}\n"
-                            "last {\"event\":\"end\",\"reason\":\"closed\"}\n"
-                            "no-event {\"event\":\"message\"}\n"
-                            "count 1 {\"event\":\"end\"}\n"
-                            "types state\n{\"frmMain\":{\"height\":\"number\"}}\nend\n"
-                            "query SELECT ID_Pra, ControCognome, IsPenale FROM Pratica WHERE ID_Pra < 3\n"
-                            "row 1|NULL|0\nrow 2||0\n"
-                            "setting Shared Id_Utente 7\nsetting Shared OrdexHandle absent\n"
-                            "present MapCampi.txt\nabsent *.html\n"
-                            "database-unchanged\ntables-unchanged Pratica Anagrafica\n");
+  const auto failures =
+      Run(kPlain,
+          "run\nend\nexit 0\n"
+          "event {\"event\":\"state\",\"frmMain\":{\"height\":4320}}\n"
+          "last {\"event\":\"end\",\"reason\":\"closed\"}\n"
+          "no-event {\"event\":\"message\"}\n"
+          "count 1 {\"event\":\"end\"}\n"
+          "types state\n{\"frmMain\":{\"height\":\"number\"}}\nend\n"
+          "query SELECT ID_Pra, ControCognome, IsPenale FROM Pratica WHERE ID_Pra < 3\n"
+          "row 1|NULL|0\nrow 2||0\n"
+          "setting Shared Id_Utente 7\nsetting Shared OrdexHandle absent\n"
+          "present MapCampi.txt\nabsent *.html\n"
+          "database-unchanged\ntables-unchanged Pratica Anagrafica\n");
   EXPECT_TRUE(failures.empty()) << failures.front().text;
 }
 
@@ -99,8 +102,9 @@ TEST_F(SessionRunner, AnOutputThatIsNoEventIsTold) {
 
 TEST_F(SessionRunner, TheLastEventAndTheExitCodeMustFitEachOther) {
   const std::string session = "run\nend\nexit ";
-  EXPECT_TRUE(Begins(Run("echo '{\"event\":\"end\",\"reason\":\"done\"}'\nexit 4\n", session + "4\n"),
-                     1, "exit code 4 does not fit \"done\""));
+  EXPECT_TRUE(
+      Begins(Run("echo '{\"event\":\"end\",\"reason\":\"done\"}'\nexit 4\n", session + "4\n"), 1,
+             "exit code 4 does not fit \"done\""));
   EXPECT_TRUE(Begins(Run("echo '{\"event\":\"beep\"}'\n", session + "0\n"), 1,
                      "the last event is not \"end\""));
   EXPECT_TRUE(Begins(Run("true\n", session + "0\n"), 1, "no event was printed"));
@@ -109,21 +113,23 @@ TEST_F(SessionRunner, TheLastEventAndTheExitCodeMustFitEachOther) {
 }
 
 TEST_F(SessionRunner, AFileLeftInTheProgramFolderIsTold) {
-  const auto failures = Run(std::string("touch office/pagina.txt\n") + kPlain, "run\nend\nexit 0\n");
+  const auto failures =
+      Run(std::string("touch office/pagina.txt\n") + kPlain, "run\nend\nexit 0\n");
   EXPECT_TRUE(Begins(failures, 1, "the run left \"pagina.txt\" in the program folder"));
 }
 
 TEST_F(SessionRunner, TheConsoleIsGivenItsArgumentsAndFiles) {
-  const auto failures = Run("echo \"$*\" | cat - page.txt script.txt > found\n"
-                            "cmp found expected || exit 7\n" +
-                                std::string(kPlain),
-                            "page-text\nuno\ndue\nend\nnow 01/02/2026\noptions --sql --x\n"
-                            "work-file expected\n"
-                            "--dir office --settings settings.ini --json --clipboard page.txt "
-                            "--now 01/02/2026 --script script.txt --sql --x\n"
-                            "uno\ndue"
-                            "a\nb c\n\nend\n"
-                            "run\n  a\n  b c\nend\nexit 0\n");
+  const auto failures =
+      Run("echo \"$*\" | cat - page.txt script.txt > found\n"
+          "cmp found expected || exit 7\n" +
+              std::string(kPlain),
+          "page-text\nuno\ndue\nend\nnow 01/02/2026\noptions --sql --x\n"
+          "work-file expected\n"
+          "--dir office --settings settings.ini --json --clipboard page.txt "
+          "--now 01/02/2026 --script script.txt --sql --x\n"
+          "uno\ndue"
+          "a\nb c\n\nend\n"
+          "run\n  a\n  b c\nend\nexit 0\n");
   EXPECT_TRUE(failures.empty()) << failures.front().text;
 }
 
@@ -137,8 +143,8 @@ TEST_F(SessionRunner, AChangeOfTheDatabaseIsTold) {
   EXPECT_TRUE(Begins(Run(console, session + "database-unchanged\n"), 6,
                      "the database has changed\ntable Utenti differs from line 2 on"));
   EXPECT_TRUE(Run(console, session + "tables-unchanged Pratica\n").empty());
-  EXPECT_TRUE(Begins(Run(console, session + "tables-unchanged Utenti\n"), 6,
-                     "the database has changed"));
+  EXPECT_TRUE(
+      Begins(Run(console, session + "tables-unchanged Utenti\n"), 6, "the database has changed"));
 }
 
 TEST_F(SessionRunner, WhatCannotBeSetUpIsAnError) {
@@ -156,13 +162,13 @@ TEST_F(SessionRunner, WhatCannotBeSetUpIsAnError) {
 }
 
 TEST_F(SessionRunner, MappingFilesAreChangedLineByLine) {
-  const auto failures = Run(
-      "cmp office/MapRestr.txt expected || exit 7\n" + std::string(kPlain),
-      "mapping MapRestr.txt\nuno=A\ndue=B\ntre=C\nend\n"
-      "mapping-line MapRestr.txt 2 DUE=b\nmapping-without MapRestr.txt uno=A\n"
-      "mapping-add MapRestr.txt quattro=D E\n"
-      "work-file expected\nDUE=b\ntre=C\nquattro=D E\n\nend\n"
-      "run\nend\nexit 0\n");
+  const auto failures =
+      Run("cmp office/MapRestr.txt expected || exit 7\n" + std::string(kPlain),
+          "mapping MapRestr.txt\nuno=A\ndue=B\ntre=C\nend\n"
+          "mapping-line MapRestr.txt 2 DUE=b\nmapping-without MapRestr.txt uno=A\n"
+          "mapping-add MapRestr.txt quattro=D E\n"
+          "work-file expected\nDUE=b\ntre=C\nquattro=D E\n\nend\n"
+          "run\nend\nexit 0\n");
   EXPECT_TRUE(failures.empty()) << failures.front().text;
 }
 
@@ -170,8 +176,9 @@ TEST(QueryRows, ValuesAreWrittenOnOneLineEach) {
   const TemporaryFolder folder;
   const auto file = folder.path() / "a.db";
   MakeDatabase(file, {});
-  EXPECT_EQ(QueryRows(file, "SELECT 'a|b' || char(13, 10, 9) || '\\', NULL, 1936.27, '' UNION ALL "
-                            "SELECT 2, 3, 4, 5"),
+  EXPECT_EQ(QueryRows(file,
+                      "SELECT 'a|b' || char(13, 10, 9) || '\\', NULL, 1936.27, '' UNION ALL "
+                      "SELECT 2, 3, 4, 5"),
             (std::vector<std::string>{"a\\|b\\r\\n\\t\\\\|NULL|1936.27|", "2|3|4|5"}));
 }
 

@@ -43,7 +43,8 @@ void Workplace::MakeDatabase(const std::string& what) {
   if (what == "empty") {
     sessions::MakeDatabase(database(), {source_ / "sql/embedded.sql"});
   } else {
-    sessions::MakeDatabase(database(), {source_ / "sql/embedded.sql", source_ / "samples/office.sql"});
+    sessions::MakeDatabase(database(),
+                           {source_ / "sql/embedded.sql", source_ / "samples/office.sql"});
   }
 }
 

@@ -23,11 +23,12 @@ struct ActionFixture {
 
   ActionOutcome Press() {
     const Database database = office.database();
-    return cmdAzione_Click(
-        {database, page, choice, commands, control, boxes, desktop, [this](std::int32_t idPra) {
-           written.push_back(idPra);
-           return succeeds;
-         }});
+    return cmdAzione_Click({database, page, choice, commands, control, status, agenda, boxes,
+                            desktop, [this] { ++partiesShown; },
+                            [this](std::int32_t idPra) {
+                              written.push_back(idPra);
+                              return succeeds;
+                            }});
   }
   // The user has agreed to create a case and chosen client and counterpart.
   void ReadyToCreate() {
@@ -42,9 +43,12 @@ struct ActionFixture {
   CaseChoice choice;
   Commands commands;
   CaseHeaderControl control{choice.ctlTestata1};
+  StatusBar status;
+  AgendaList agenda;
   FakeMessageBoxes boxes;
   FakeDesktop desktop;
 
+  int partiesShown = 0;
   bool succeeds = true;
   std::vector<std::int32_t> written;  // the cases that were to be written, 0 for a new one
 };

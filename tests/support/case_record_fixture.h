@@ -57,7 +57,7 @@ struct CaseRecordFixture {
   bool Create() { return Write(0); }
   bool Write(std::int32_t idPra) {
     return RegistraPratica({office.database(), page, lstImport, choice, person.bCollegareAna,
-                            person.dialog, person.boxes, clock, agenda},
+                            person.dialog, person.boxes, clock, agenda, progress},
                            idPra);
   }
 
@@ -68,6 +68,7 @@ struct CaseRecordFixture {
   CaseChoice choice;
   FakeClock clock;  // 20/02/2026 09:15:30
   RecordingAgenda agenda;
+  RecordingProgress progress;
 };
 
 }  // namespace ordex::testing

@@ -71,9 +71,16 @@ class FakeDialogs final : public Dialogs {
     if (onPersonCard) onPersonCard();
   }
 
+  void ShowParties() override {
+    shown.emplace_back("ShowParties");
+    if (onParties) onParties();
+  }
+
   std::vector<std::string> shown;
   // What the user does while the person card is open.
   std::function<void()> onPersonCard;
+  // What the user does while the parties dialog is open.
+  std::function<void()> onParties;
 };
 
 class FakeDesktop final : public Desktop {

@@ -41,11 +41,12 @@ struct WindowFixture {
   FakeClipboard clipboard;
   FakeClock clock;
   FakeSettings settings;
+  RecordingProgress progress;
   std::vector<std::string> opened;         // connection strings
   std::optional<RunTimeError> cannotOpen;  // what opening the database ends with
   MainWindow window{folder.path(),
                     {boxes, dialogs, desktop, clipboard, clock, settings, office.diagnostics,
-                     [this](std::string_view connectionString) {
+                     progress, [this](std::string_view connectionString) {
                        opened.emplace_back(connectionString);
                        if (cannotOpen) throw *cannotOpen;
                        return OpenSqlite(office.file());

@@ -32,6 +32,9 @@ std::optional<int> NumberWithin(std::string_view text, std::int64_t least, std::
   return *number;
 }
 
+// How often long work is told of, in rows.
+constexpr std::size_t kProgressStep = 1000;
+
 bool IsOneOf(std::string_view word, std::initializer_list<std::string_view> words) {
   return std::find(words.begin(), words.end(), word) != words.end();
 }
@@ -44,6 +47,22 @@ ControlTexts TextsOf(const PersonCard& card) {
           {"lblDomanda", card.lblDomanda}};
 }
 
+ControlTexts TextsOf(const PartiesForm& form) {
+  ControlTexts texts = {{"caption", form.caption},
+                        {"lblTitolo", form.lblTitolo},
+                        {"frameAttore", form.frameAttore},
+                        {"lblAttore", form.lblAttore},
+                        {"lblAttoreDifensore", form.lblAttoreDifensore},
+                        {"frameConvenuto", form.frameConvenuto},
+                        {"lblConvenuto", form.lblConvenuto},
+                        {"lblConvenutoDifensore", form.lblConvenutoDifensore},
+                        {"cmdOk", form.cmdOk.caption}};
+  for (std::size_t i = 0; i < kPartyBoxes; ++i) {
+    texts.emplace_back(PartiesDialog::NameOf(static_cast<PartyBox>(i)), form.boxes[i].text);
+  }
+  return texts;
+}
+
 }  // namespace
 
 Session::Session(const SessionSetup& setup, CommandSource& commands, Events& events)
@@ -52,7 +71,7 @@ Session::Session(const SessionSetup& setup, CommandSource& commands, Events& eve
       clipboard_(setup.clipboard),
       tellSql_(setup.tellSql),
       window_(setup.programFolder,
-              {*this, *this, *this, setup.clipboard, setup.clock, setup.settings, *this,
+              {*this, *this, *this, setup.clipboard, setup.clock, setup.settings, *this, *this,
                [folder = setup.programFolder](std::string_view connectionString) {
                  return OpenConnection(connectionString, folder);
                }}) {}
@@ -293,6 +312,35 @@ bool Session::ActOnPersonCard(const Command& command) {
   return true;
 }
 
+void Session::ShowParties() {
+  const PartiesForm& form = State().partiesForm;
+  events_.Dialog("dlgParti", true, TextsOf(form));
+  while (form.open) {
+    const auto command = commands_.Next();
+    if (!command) {
+      window_.dlgParti().Close();
+      break;
+    }
+    Carry(*command, [this](const Command& one) { return ActOnParties(one); });
+  }
+  events_.Dialog("dlgParti", false, TextsOf(form));
+}
+
+bool Session::ActOnParties(const Command& command) {
+  PartiesDialog& dialog = window_.dlgParti();
+  if (command.verb == "close") {
+    dialog.Close();
+  } else if (command.verb == "click" && Trim(command.rest) == "cmdOk") {
+    dialog.cmdOk_Click();
+  } else if (command.verb == "type") {
+    const auto halves = SplitOnce(command.rest, " ");
+    return halves ? dialog.Type(halves->left, halves->right) : dialog.Type(command.rest, "");
+  } else {
+    return false;
+  }
+  return true;
+}
+
 // --- the desktop ------------------------------------------------------------------------------
 
 bool Session::Open(const std::string& link) {
@@ -315,6 +363,10 @@ void Session::Trapped(std::string_view routine, const RunTimeError& error) {
 void Session::Failed(const RunTimeError& error, std::optional<std::size_t> line) {
   events_.Error(error, line);
   dying_ = dying_ || !line;
+}
+
+void Session::Advance(std::size_t done, std::size_t total) {
+  if (done % kProgressStep == 0) events_.Progress(done, total);
 }
 
 }  // namespace ordex::console

@@ -41,7 +41,11 @@ struct SessionEnd {
 };
 
 // Stands in for the desktop: answers boxes and dialogs from the commands that come next.
-class Session : private MessageBoxes, private Dialogs, private Desktop, private Diagnostics {
+class Session : private MessageBoxes,
+                private Dialogs,
+                private Desktop,
+                private Diagnostics,
+                private Progress {
  public:
   Session(const SessionSetup& setup, CommandSource& commands, Events& events);
 
@@ -56,6 +60,7 @@ class Session : private MessageBoxes, private Dialogs, private Desktop, private 
 
   BoxAnswer Show(const BoxText& box) override;
   void ShowPersonCard() override;
+  void ShowParties() override;
   void Beep() override { events_.Beep(); }
   void SetFocus(std::string_view control) override { events_.Focus(control); }
   void SetMousePointer(MousePointer) override {}
@@ -64,6 +69,7 @@ class Session : private MessageBoxes, private Dialogs, private Desktop, private 
   void DebugszSql(std::string_view szSql) override;
   void Trapped(std::string_view routine, const RunTimeError& error) override;
   void Failed(const RunTimeError& error, std::optional<std::size_t> line) override;
+  void Advance(std::size_t done, std::size_t total) override;
 
   void RunCommands();
   // Carries a command out through `act`, which returns whether it fits. One that does not ends a
@@ -73,6 +79,7 @@ class Session : private MessageBoxes, private Dialogs, private Desktop, private 
   bool ActAnywhere(const Command& command);
   bool ActOnWindow(const Command& command);
   bool ActOnPersonCard(const Command& command);
+  bool ActOnParties(const Command& command);
   bool AnswerBox(const Command& command, const BoxText& box, std::optional<BoxAnswer>& answer);
 
   bool Click(std::string_view name);

@@ -10,6 +10,7 @@ namespace ordex::console {
 namespace {
 
 constexpr std::size_t kLabelWidth = 14;
+constexpr std::size_t kBoxNameWidth = 24;
 
 // "Stato         Trovata una sola pratica …"
 void PrintLine(std::ostream& out, std::string_view label, std::string_view value) {
@@ -92,6 +93,17 @@ Table AgendaTable(const AgendaList& list) {
   return table;
 }
 
+// The boxes by the names that the command "type" knows.
+void PrintParties(std::ostream& out, const ControlTexts& texts) {
+  out << "\n";
+  for (const auto& [control, text] : texts) {
+    if (control == "caption") out << "── " << text << " ──\n";
+    if (control == "lblTitolo") out << text << "\n\n";
+    if (control.starts_with("txt")) out << Fitted(control, kBoxNameWidth) << text << "\n";
+  }
+  out << "[OK: click cmdOk]" << std::endl;
+}
+
 std::string_view Ending(EndReason reason) {
   switch (reason) {
     case EndReason::kClosed:
@@ -144,8 +156,12 @@ void TextEvents::Message(const BoxText& box, BoxAnswer answer) {
   out_ << "Risposta: " << (answer == BoxAnswer::kYes ? "Sì" : "No") << std::endl;
 }
 
-void TextEvents::Dialog(std::string_view, bool open, const ControlTexts& texts) {
+void TextEvents::Dialog(std::string_view name, bool open, const ControlTexts& texts) {
   if (!open) return;
+  if (name == "dlgParti") {
+    PrintParties(out_, texts);
+    return;
+  }
   const auto text = [&texts](std::string_view control) {
     const auto found = std::find_if(texts.begin(), texts.end(),
                                     [&](const auto& pair) { return pair.first == control; });
@@ -219,6 +235,8 @@ std::string_view HelpText() {
          "column N, row N        clic sulla colonna o sulla riga N dell'elenco\n"
          "yes, no, ok            risponde al messaggio (Invio: la risposta predefinita)\n"
          "click cmdSi, cmdNo     risponde nella scheda della persona\n"
+         "type CASELLA TESTO     scrive un nome nella finestra delle parti (txtAttore ...)\n"
+         "click cmdOk            conferma la finestra delle parti\n"
          "clipboard FILE         mette il testo del file negli appunti\n"
          "poke                   importa la pagina che sta negli appunti\n"
          "state                  mostra di nuovo la finestra\n"
