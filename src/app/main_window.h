@@ -47,6 +47,9 @@ struct World {
   std::function<std::unique_ptr<Connection>(std::string_view connectionString)> openDatabase;
 };
 
+// The OLE DB connection string that the settings give.
+std::string ConnectionStringOf(const Settings& settings);
+
 class MainWindow {
  public:
   // The mapping files stand in `programFolder`, and the page file is written there.
@@ -96,7 +99,6 @@ class MainWindow {
 
   void SetDb();
   void GestUtente();
-  void SetCaption();
   void ImportPage();
   void PrepareForKind();
   void FindCaseOfPage();

@@ -5,6 +5,7 @@
 #include "app/main_window.h"
 #include "app/review_lists.h"
 #include "app/window_commands.h"
+#include "app/window_sink.h"
 #include "base/number.h"
 #include "cases/case_choice_rules.h"
 #include "parse/mapping_files.h"
@@ -18,31 +19,13 @@ constexpr std::string_view kIdUtente = "Id_Utente";
 constexpr std::int32_t kNobodyLoggedOn = -1;
 constexpr std::int32_t kFallbackUser = 2;
 
-// Where an import puts what it reads: the lists and the parties boxes of the window.
-class WindowSink : public ImportSink {
- public:
-  explicit WindowSink(Window& window) : window_(window) {}
-
-  void SetWidthlstImport(int kind) override { ordex::SetWidthlstImport(window_.lstImport, kind); }
-  void WriteListView(std::string_view ValueItem, std::string_view FirstSubItem,
-                     std::string_view SecondSubItem, std::string_view ThirdSubItem,
-                     std::string_view szTag) override {
-    ordex::WriteListView(window_.lstImport, ValueItem, FirstSubItem, SecondSubItem, ThirdSubItem,
-                         szTag);
-  }
-  void AggiungiRigaAgenda(std::string_view ValueItem, std::string_view FirstSubItem,
-                          bool bold) override {
-    ordex::AggiungiRigaAgenda(window_.lstAgendaAvv, ValueItem, FirstSubItem, bold);
-  }
-  void LoadcmbParti(std::string_view szSoggetto, std::string_view szDifensore) override {
-    ordex::LoadcmbParti(window_.choice, szSoggetto, szDifensore);
-  }
-
- private:
-  Window& window_;
-};
-
 }  // namespace
+
+// The fragments bring their own semicolons and keys.
+std::string ConnectionStringOf(const Settings& settings) {
+  return "Provider=SQLNCLI.1" + settings.Get("startup", "Security") + "Initial Catalog=Zelmo32;" +
+         settings.Get("startup", "Server");
+}
 
 void MainWindow::Form_Initialize(std::string_view handle) {
   world_.settings.Save(kShared, "OrdexHandle", handle);
@@ -62,7 +45,7 @@ void MainWindow::Form_Load() {
   SetDb();
   GestUtente();
   LoadOrdexMap(window_.mappings);
-  SetCaption();
+  SetCaption(window_);
   PageFileOnDisk pageFile(programFolder_, window_.page.szNameTxt);
   TxtfromClipboard(programFolder_, window_.page.szNameTxt, world_.clipboard);
   ImportPage();
@@ -76,12 +59,8 @@ void MainWindow::Form_Unload() {
   world_.settings.Save(kShared, kIdUtente, std::to_string(kNobodyLoggedOn));
 }
 
-// The fragments bring their own semicolons and keys.
 void MainWindow::SetDb() {
-  const std::string security = world_.settings.Get("startup", "Security");
-  const std::string server = world_.settings.Get("startup", "Server");
-  connection_ =
-      world_.openDatabase("Provider=SQLNCLI.1" + security + "Initial Catalog=Zelmo32;" + server);
+  connection_ = world_.openDatabase(ConnectionStringOf(world_.settings));
   database_.emplace(Database{*connection_, world_.diagnostics});
   ctlTestata1_.SetConnection(*connection_);
 }
@@ -94,13 +73,6 @@ void MainWindow::GestUtente() {
   }
   ctlTestata1_.SetUser(kFallbackUser);
   world_.settings.Save(kShared, kIdUtente, std::to_string(kFallbackUser));
-}
-
-// The page kind's phrase names the page file and stands in the title.
-void MainWindow::SetCaption() {
-  const auto kind = static_cast<std::size_t>(window_.page.iOrdexPage);
-  window_.page.szNameTxt = window_.mappings.cRestr.At(kind).value;
-  window_.frmMain.caption = "Ordex - " + window_.page.szNameTxt;
 }
 
 void MainWindow::ImportPage() {
@@ -150,7 +122,7 @@ void MainWindow::FindCaseOfPage() {
 }
 
 void MainWindow::TakeFurtherProfile() {
-  SetCaption();
+  SetCaption(window_);
   PageFileOnDisk pageFile(programFolder_, window_.page.szNameTxt);
   TxtfromClipboard(programFolder_, window_.page.szNameTxt, world_.clipboard);
   ClearRows(window_.lstImport);
@@ -162,7 +134,7 @@ void MainWindow::TakeFurtherProfile() {
 // Unlike a profile page, a further history page adds its rows to those that are there, and its page
 // file stays.
 void MainWindow::TakeFurtherHistory() {
-  SetCaption();
+  SetCaption(window_);
   TxtfromClipboard(programFolder_, window_.page.szNameTxt, world_.clipboard);
   ImportPage();
 }

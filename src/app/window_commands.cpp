@@ -15,6 +15,12 @@ void OfferCreate(Button& cmdAzione) {
 
 }  // namespace
 
+void SetCaption(Window& window) {
+  const auto kind = static_cast<std::size_t>(window.page.iOrdexPage);
+  window.page.szNameTxt = window.mappings.cRestr.At(kind).value;
+  window.frmMain.caption = "Ordex - " + window.page.szNameTxt;
+}
+
 void CentraForm(FrmMain& frmMain, const ScreenSize& screen) {
   frmMain.top = (screen.height - frmMain.height) / 2;
   frmMain.left = (screen.width - frmMain.width) / 2;

@@ -9,6 +9,9 @@
 
 namespace ordex {
 
+// Names the page's kind in the title and the page file after it: both by the recognition text.
+void SetCaption(Window& window);
+
 // Centres the window on the screen.
 void CentraForm(FrmMain& frmMain, const ScreenSize& screen);
 

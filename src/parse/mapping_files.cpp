@@ -18,27 +18,25 @@ bool IsEntry(std::string_view line) {
 }
 
 FileLineError LineError(ErrorNumber number, const std::filesystem::path& file,
-                        std::size_t number_of, std::string_view line, std::string_view advice) {
+                        const MappingLine& line, std::string_view advice) {
   std::string where = "file \"" + file.filename().string() + "\", riga " +
-                      std::to_string(number_of) + ", \"" + std::string(line) + "\". ";
-  return {number, Describe(number, where.append(advice)), number_of};
+                      std::to_string(line.number) + ", \"" + line.text + "\". ";
+  return {number, Describe(number, where.append(advice)), line.number};
 }
 
-void AddEntry(KeyedTable& table, const std::filesystem::path& file, std::size_t number,
-              std::string_view line, Values values) {
-  const auto halves = SplitOnce(line, "=");
-  if (!halves) {
-    throw LineError(ErrorNumber::kSubscript, file, number, line,
+void AddEntry(KeyedTable& table, const std::filesystem::path& file, const MappingLine& line,
+              Values values) {
+  if (!line.hasEquals) {
+    throw LineError(ErrorNumber::kSubscript, file, line,
                     "Nella riga manca il segno \"=\": scriverla nella forma testo=chiave, oppure "
                     "aggiungere il segno \"°\" se è un commento.");
   }
-  if (table.Exists(halves->right)) {
-    throw LineError(ErrorNumber::kDuplicateKey, file, number, line,
-                    "La chiave \"" + std::string(halves->right) +
+  if (table.Exists(line.right)) {
+    throw LineError(ErrorNumber::kDuplicateKey, file, line,
+                    "La chiave \"" + line.right +
                         "\" sta già in una riga precedente: togliere una delle due righe.");
   }
-  table.Add(values == Values::kLowerCase ? Lower(halves->left) : std::string(halves->left),
-            halves->right);
+  table.Add(values == Values::kLowerCase ? Lower(line.left) : line.left, line.right);
 }
 
 std::string ReadMappingFile(const std::filesystem::path& file) {
@@ -55,15 +53,25 @@ std::string ReadMappingFile(const std::filesystem::path& file) {
 
 void LoadMappingFile(KeyedTable& table, const std::filesystem::path& file, Values values) {
   table.Clear();
-  const std::string text = ReadMappingFile(file);
-  Lines lines(text);
-  for (std::size_t number = 1; !lines.AtEnd(); ++number) {
-    const std::string_view line = lines.Next();
-    if (IsEntry(line)) AddEntry(table, file, number, line, values);
-  }
+  for (const MappingLine& line : ReadMappingLines(file)) AddEntry(table, file, line, values);
 }
 
 }  // namespace
+
+std::vector<MappingLine> ReadMappingLines(const std::filesystem::path& file) {
+  const std::string text = ReadMappingFile(file);
+  std::vector<MappingLine> entries;
+  Lines lines(text);
+  for (std::size_t number = 1; !lines.AtEnd(); ++number) {
+    const std::string_view line = lines.Next();
+    if (!IsEntry(line)) continue;
+    const auto halves = SplitOnce(line, "=");
+    entries.push_back({number, std::string(line), halves.has_value(),
+                       std::string(halves ? halves->left : line),
+                       std::string(halves ? halves->right : "")});
+  }
+  return entries;
+}
 
 void LocateMappings(Mappings& mappings, const std::filesystem::path& programFolder) {
   mappings.mapCampi = programFolder / kMapCampi;

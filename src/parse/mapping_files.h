@@ -5,8 +5,11 @@
 // over.
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/keyed_table.h"
 #include "state/mappings.h"
@@ -20,6 +23,18 @@ inline constexpr std::string_view kMapDelimitatori = "MapDelimitatori.txt";
 
 // Sets the paths of the three files.
 void LocateMappings(Mappings& mappings, const std::filesystem::path& programFolder);
+
+// A line of a mapping file that is neither a comment nor too short to count.
+struct MappingLine {
+  std::size_t number = 0;  // counted from 1
+  std::string text;
+  bool hasEquals = false;
+  std::string left;   // before the first "="; the whole line where there is none
+  std::string right;  // behind it
+};
+
+// All such lines of a file. Error: FileLineError, where the file cannot be read.
+std::vector<MappingLine> ReadMappingLines(const std::filesystem::path& file);
 
 // Each replaces its table by a new one and fills it from its file.
 // Errors: FileLineError that names the file, the line and what to mend: file not found, a line

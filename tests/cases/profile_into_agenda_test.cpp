@@ -27,7 +27,7 @@ struct WholeRecord : CaseRecordFixture {
     const Database database = office.database();
     HearingWriter writer(database, page, clock);
     return RegistraPratica({database, page, lstImport, choice, person.bCollegareAna, person.dialog,
-                            person.boxes, clock, writer},
+                            person.boxes, clock, writer, progress},
                            idPra);
   }
   Texts Agenda() {

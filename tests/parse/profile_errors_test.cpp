@@ -5,26 +5,13 @@
 #include <vector>
 
 #include "import_bench.h"
+#include "missing_delimiter.h"
 
 namespace ordex::testing {
 namespace {
 
-// The delimiters without the line of `key`.
-std::string DelimitersWithout(const std::string& key) {
-  std::string delimiters(kBenchDelimiters);
-  const std::size_t end = delimiters.find("=" + key + "\n");
-  const std::size_t before = delimiters.rfind('\n', end);
-  const std::size_t start = before == std::string::npos ? 0 : before + 1;
-  return delimiters.erase(start, end + key.size() + 2 - start);
-}
-
-std::string MissingText(const std::string& key) {
-  return "Chiave non trovata: \"" + key +
-         R"(" manca nel file "MapDelimitatori.txt": aggiungere la riga testo=)" + key;
-}
-
 Stop RunWithout(ImportBench& bench, const std::string& key, const std::vector<std::string>& lines) {
-  bench.Delimiters(DelimitersWithout(key));
+  bench.Delimiters(DelimitersWithout(kBenchDelimiters, key));
   return bench.Run(lines);
 }
 

@@ -47,32 +47,27 @@ std::string_view Name(EndReason reason) {
   return "";
 }
 
-// Every event is flushed: who reads along must know of it before the next one happens.
-void Print(std::ostream& out, const Json& event) {
-  out << event.dump(-1, ' ', false, Json::error_handler_t::replace) << std::endl;
-}
-
 }  // namespace
 
 void JsonEvents::State(const Window& window) {
   Json event = {{"event", "state"}};
   event.update(StateJson(window));
-  Print(out_, event);
+  PrintJsonLine(out_, event);
 }
 
 void JsonEvents::Message(const BoxText& box, BoxAnswer answer) {
-  Print(out_, {{"event", "message"},
-               {"text", box.text},
-               {"title", box.title},
-               {"icon", Name(box.icon)},
-               {"buttons", box.buttons == BoxButtons::kOk ? "ok" : "yesno"},
-               {"answer", Name(answer)}});
+  PrintJsonLine(out_, {{"event", "message"},
+                       {"text", box.text},
+                       {"title", box.title},
+                       {"icon", Name(box.icon)},
+                       {"buttons", box.buttons == BoxButtons::kOk ? "ok" : "yesno"},
+                       {"answer", Name(answer)}});
 }
 
 void JsonEvents::Dialog(std::string_view name, bool open, const ControlTexts& texts) {
   Json event = {{"event", "dialog"}, {"name", name}, {"open", open}};
   for (const auto& [control, text] : texts) event[control] = text;
-  Print(out_, event);
+  PrintJsonLine(out_, event);
 }
 
 void JsonEvents::Found(const std::vector<FoundCase>& cases) {
@@ -80,45 +75,45 @@ void JsonEvents::Found(const std::vector<FoundCase>& cases) {
   for (const FoundCase& found : cases) {
     list.push_back({{"idPra", found.idPra}, {"numeroRG", found.numeroRG}, {"title", found.title}});
   }
-  Print(out_, {{"event", "found"}, {"cases", std::move(list)}});
+  PrintJsonLine(out_, {{"event", "found"}, {"cases", std::move(list)}});
 }
 
 void JsonEvents::Sql(std::string_view text) {
-  Print(out_, {{"event", "sql"}, {"text", text}});
+  PrintJsonLine(out_, {{"event", "sql"}, {"text", text}});
 }
 
 void JsonEvents::Trapped(std::string_view routine, std::string_view text) {
-  Print(out_, {{"event", "trapped"}, {"where", routine}, {"text", text}});
+  PrintJsonLine(out_, {{"event", "trapped"}, {"where", routine}, {"text", text}});
 }
 
 void JsonEvents::Error(const RunTimeError& error, std::optional<std::size_t> line) {
   Json event = {{"event", "error"}, {"number", error.number()}, {"text", error.description()}};
   if (line) event["line"] = *line;
-  Print(out_, event);
+  PrintJsonLine(out_, event);
 }
 
 void JsonEvents::Beep() {
-  Print(out_, {{"event", "beep"}});
+  PrintJsonLine(out_, {{"event", "beep"}});
 }
 
 void JsonEvents::Raise() {
-  Print(out_, {{"event", "raise"}});
+  PrintJsonLine(out_, {{"event", "raise"}});
 }
 
 void JsonEvents::Focus(std::string_view control) {
-  Print(out_, {{"event", "focus"}, {"name", control}});
+  PrintJsonLine(out_, {{"event", "focus"}, {"name", control}});
 }
 
 void JsonEvents::Open(std::string_view link) {
-  Print(out_, {{"event", "open"}, {"text", link}});
+  PrintJsonLine(out_, {{"event", "open"}, {"text", link}});
 }
 
 void JsonEvents::Progress(std::size_t done, std::size_t total) {
-  Print(out_, {{"event", "progress"}, {"done", done}, {"total", total}});
+  PrintJsonLine(out_, {{"event", "progress"}, {"done", done}, {"total", total}});
 }
 
 void JsonEvents::End(EndReason reason) {
-  Print(out_, {{"event", "end"}, {"reason", Name(reason)}});
+  PrintJsonLine(out_, {{"event", "end"}, {"reason", Name(reason)}});
 }
 
 }  // namespace ordex::console

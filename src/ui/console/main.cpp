@@ -11,8 +11,10 @@
 #include "base/text.h"
 #include "base/text_file.h"
 #include "store/db/sqlite_connection.h"
+#include "ui/console/check.h"
 #include "ui/console/clocks.h"
 #include "ui/console/command_source.h"
+#include "ui/console/explain.h"
 #include "ui/console/json_events.h"
 #include "ui/console/program_folder.h"
 #include "ui/console/session.h"
@@ -34,6 +36,8 @@ struct Options {
   bool sql = false;
   std::string newDatabase;
   bool sample = false;
+  std::string pages;
+  std::string pageFile;
 };
 
 // A call that cannot be carried out, said in Italian.
@@ -103,13 +107,36 @@ int RunSession(const Options& options, const char* executable) {
   return ExitCode(session.Run());
 }
 
-int CreateDatabase(const Options& options) {
+// The verbs that report on files: what keeps them from it is a wrong call.
+template <class Work>
+int OrWrongCall(Work work) {
   try {
-    CreateSqliteDatabase(options.newDatabase, options.sample);
+    return work();
   } catch (const RunTimeError& error) {
     throw WrongCall{error.description()};
+  } catch (const std::filesystem::filesystem_error& error) {
+    throw WrongCall{"impossibile leggere \"" + error.path1().string() + "\""};
   }
-  return 0;
+}
+
+int CreateDatabase(const Options& options) {
+  return OrWrongCall([&] {
+    CreateSqliteDatabase(options.newDatabase, options.sample);
+    return 0;
+  });
+}
+
+int RunCheck(const Options& options, const char* executable) {
+  return OrWrongCall([&] {
+    return CheckMappingFiles(
+        {ProgramFolder(options.dir, executable), options.settings, options.pages, options.json});
+  });
+}
+
+int RunExplain(const Options& options, const char* executable) {
+  return OrWrongCall([&] {
+    return Explain(ProgramFolder(options.dir, executable), options.pageFile, options.json);
+  });
 }
 
 void Declare(CLI::App& app, Options& options) {
@@ -132,9 +159,21 @@ int Main(int argc, char** argv) {
   CLI::App* create = db->add_subcommand("create", "crea un nuovo database vuoto");
   create->add_option("FILE", options.newDatabase, "il file da creare")->required();
   create->add_flag("--sample", options.sample, "con le pratiche e le persone di esempio");
+  CLI::App* check = app.add_subcommand("check", "controlla i file di mappatura");
+  check->add_option("--dir", options.dir, "cartella del programma");
+  check->add_option("--pages", options.pages, "cartella di pagine da provare");
+  check->add_option("--settings", options.settings, "confronta i campi con questo database");
+  check->add_flag("--json", options.json, "un oggetto JSON per riga");
+  CLI::App* explain = app.add_subcommand("explain", "mostra che cosa diventa ogni riga");
+  explain->add_option("--dir", options.dir, "cartella del programma");
+  explain->add_flag("--json", options.json, "un oggetto JSON per riga");
+  explain->add_option("PAGEFILE", options.pageFile, "il testo di una pagina")->required();
   try {
     app.parse(argc, argv);
-    return create->parsed() ? CreateDatabase(options) : RunSession(options, argv[0]);
+    if (create->parsed()) return CreateDatabase(options);
+    if (check->parsed()) return RunCheck(options, argv[0]);
+    if (explain->parsed()) return RunExplain(options, argv[0]);
+    return RunSession(options, argv[0]);
   } catch (const CLI::CallForHelp&) {
     std::cout << app.help();
     return 0;

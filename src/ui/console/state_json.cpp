@@ -115,6 +115,10 @@ Json CommandsJson(const Commands& commands) {
 
 }  // namespace
 
+void PrintJsonLine(std::ostream& out, const Json& event) {
+  out << event.dump(-1, ' ', false, Json::error_handler_t::replace) << std::endl;
+}
+
 Json ReviewRowJson(const ReviewRow& row) {
   return {{"text", row.text}, {"sub", row.sub}, {"tag", row.tag}};
 }

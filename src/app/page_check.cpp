@@ -1,0 +1,108 @@
+// What stored pages say of the mapping files, through the program's own import.
+#include <algorithm>
+#include <set>
+#include <string>
+#include <utility>
+
+#include "app/mapping_check.h"
+#include "app/page_trial.h"
+#include "base/text.h"
+#include "base/text_file.h"
+#include "parse/mapping_files.h"
+
+namespace ordex {
+namespace fs = std::filesystem;
+namespace {
+
+std::vector<fs::path> TextFiles(const fs::path& folder) {
+  std::vector<fs::path> files;
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+    if (entry.is_regular_file() && entry.path().extension() == ".txt")
+      files.push_back(entry.path());
+  }
+  std::sort(files.begin(), files.end());
+  return files;
+}
+
+class PageCheck {
+ public:
+  explicit PageCheck(fs::path programFolder) : programFolder_(std::move(programFolder)) {}
+
+  void Run(const fs::path& file) {
+    const std::string name = file.filename().string();
+    const auto trial = TryPage(programFolder_, ReadTextFile(file));
+    if (!trial) {
+      Add(name, 0, Severity::kWarning,
+          "La pagina non viene riconosciuta: nessun testo di \"" + std::string(kMapRestr) +
+              "\" vi compare.");
+      return;
+    }
+    if (trial->stop) {
+      Add(name, trial->stop->inPage ? trial->stop->line : 0, Severity::kError,
+          "L'importazione si ferma: " + trial->stop->error.description());
+    } else if (YieldsNothing(*trial)) {
+      Add(name, 0, Severity::kWarning,
+          "Dalla pagina non viene letto nulla: controllare le diciture in \"" +
+              std::string(kMapDelimitatori) + "\" e \"" + std::string(kMapCampi) + "\".");
+    }
+    Note(*trial);
+  }
+
+  std::vector<Finding> Finish() {
+    Unused(kMapRestr, "Nessuna delle pagine viene riconosciuta da ",
+           [this](const MappingLine& line) { return kinds_.contains(line.right); });
+    Unused(kMapCampi, "Nessuna delle pagine usa l'etichetta ",
+           [this](const MappingLine& line) { return labels_.contains(Lower(Trim(line.right))); });
+    Unused(kMapDelimitatori, "In nessuna delle pagine compare il testo di ",
+           [this](const MappingLine& line) { return texts_.find(line.left) != std::string::npos; });
+    return std::move(findings_);
+  }
+
+ private:
+  void Add(std::string file, std::size_t line, Severity severity, std::string text) {
+    findings_.push_back({std::move(file), line, severity, std::move(text)});
+  }
+
+  static bool YieldsNothing(const PageTrial& trial) {
+    return std::all_of(trial.lines.begin(), trial.lines.end(),
+                       [](const LineReport& line) { return line.rule.empty(); });
+  }
+
+  void Note(const PageTrial& trial) {
+    const auto kind = static_cast<std::size_t>(trial.window.page.iOrdexPage);
+    kinds_.insert(trial.window.mappings.cRestr.At(kind).key);
+    const ReviewRows& rows = trial.window.lstImport.rows;
+    for (std::size_t i = 0; i < rows.size(); ++i) labels_.insert(Lower(Trim(rows[i].sub[0])));
+    for (const LineReport& line : trial.lines) {
+      texts_.append(line.text).append("\n");
+      // As the page's place in the history is read.
+      texts_.append(ReplaceAll(line.text, " ", "")).append("\n");
+    }
+  }
+
+  template <class IsUsed>
+  void Unused(std::string_view file, std::string_view what, IsUsed isUsed) {
+    for (const MappingLine& line : ReadMappingLines(programFolder_ / file)) {
+      if (!line.hasEquals || isUsed(line)) continue;
+      Add(std::string(file), line.number, Severity::kWarning,
+          std::string(what) + "\"" + line.right + "\" (" + line.text +
+              "): se il portale non la usa più togliere la riga, altrimenti correggerla.");
+    }
+  }
+
+  fs::path programFolder_;
+  std::vector<Finding> findings_;
+  std::set<std::string> kinds_;   // keys of the recognition texts
+  std::set<std::string> labels_;  // in lower case
+  std::string texts_;
+};
+
+}  // namespace
+
+std::vector<Finding> CheckPages(const fs::path& programFolder, const fs::path& pages) {
+  PageCheck check(programFolder);
+  for (const fs::path& file : TextFiles(pages)) check.Run(file);
+  return check.Finish();
+}
+
+}  // namespace ordex

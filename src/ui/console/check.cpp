@@ -1,0 +1,64 @@
+#include "ui/console/check.h"
+
+#include <algorithm>
+#include <iostream>
+#include <iterator>
+#include <vector>
+
+#include "app/ini_settings.h"
+#include "app/main_window.h"
+#include "app/mapping_check.h"
+#include "base/error.h"
+#include "store/db/open_connection.h"
+#include "ui/console/json_events.h"
+#include "ui/console/state_json.h"
+
+namespace ordex::console {
+namespace {
+
+void Append(std::vector<Finding>& findings, std::vector<Finding> more) {
+  std::move(more.begin(), more.end(), std::back_inserter(findings));
+}
+
+void PrintFinding(const Finding& finding, bool json) {
+  const bool error = finding.severity == Severity::kError;
+  if (json) {
+    PrintJsonLine(std::cout, {{"event", "finding"},
+                              {"file", finding.file},
+                              {"line", finding.line},
+                              {"severity", error ? "error" : "warning"},
+                              {"text", finding.text}});
+    return;
+  }
+  std::cout << finding.file;
+  if (finding.line > 0) std::cout << ", riga " << finding.line;
+  std::cout << ": " << (error ? "errore" : "avviso") << ". " << finding.text << "\n";
+}
+
+std::vector<Finding> Check(const CheckOptions& options) {
+  std::vector<Finding> findings = CheckMappings(options.programFolder);
+  const bool broken = std::any_of(findings.begin(), findings.end(), [](const Finding& finding) {
+    return finding.severity == Severity::kError;
+  });
+  if (!options.settings.empty()) {
+    const IniSettings settings(options.settings);
+    const auto connection = OpenConnection(ConnectionStringOf(settings), options.programFolder);
+    Append(findings, CheckColumns(options.programFolder, *connection));
+  }
+  // Pages say nothing of files that the program itself could not load.
+  if (!options.pages.empty() && !broken) {
+    Append(findings, CheckPages(options.programFolder, options.pages));
+  }
+  return findings;
+}
+
+}  // namespace
+
+int CheckMappingFiles(const CheckOptions& options) {
+  const std::vector<Finding> findings = Check(options);
+  for (const Finding& finding : findings) PrintFinding(finding, options.json);
+  if (findings.empty() && !options.json) std::cout << "I file di mappatura sono in ordine.\n";
+  return findings.empty() ? 0 : 1;
+}
+
+}  // namespace ordex::console
