@@ -40,4 +40,31 @@ std::string ProfilePage(std::size_t mappedLines) {
   return page.append("\"\r\n");
 }
 
+std::string HistoryPage(std::size_t events) {
+  std::string page = "\"Storico del fascicolo - Elenco eventi\r\nProg. Data Descrizione\r\n";
+  for (std::size_t i = 1; i <= events; ++i) {
+    page.append(std::to_string(i))
+        .append("  12/05/2025  Deposito della memoria integrativa di parte attrice\r\n");
+  }
+  return page.append("\"\r\n");
+}
+
+std::string AgendaPage(std::size_t entries) {
+  std::string page = "\"Agenda dell'avvocato - Impegni del periodo\r\n";
+  page.append("Tipo | Quando | Impegno\r\n");
+  for (std::size_t i = 1; i <= entries; ++i) {
+    page.append("Scadenza | 12/03/2026 | Deposito della prova dell'avvenuta notifica\r\n");
+  }
+  return page.append("\r\n\"\r\n");
+}
+
+std::string JusticeOfThePeacePage(std::size_t mappedLines) {
+  std::string page = "\"Giudice di pace - Scheda del procedimento\r\nDati del procedimento\r\n";
+  for (std::size_t i = 0; i < mappedLines; ++i) {
+    const Field& field = kFields[i % kFields.size()];
+    page.append(field.label).append(":").append(field.value).append("\r\n");
+  }
+  return page.append("\"\r\n");
+}
+
 }  // namespace ordex::bench

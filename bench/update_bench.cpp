@@ -39,10 +39,11 @@ struct Office {
     settings.values[{"Shared", "Id_Utente"}] = "3";
     // Another second each time, so that there is something to write.
     clock.now.second = (clock.now.second + 1) % 60;
-    MainWindow window(folder.path(), {boxes, dialogs, desktop, clipboard, clock, settings,
-                                      diagnostics, progress, [this](std::string_view connectionString) {
-                                        return OpenConnection(connectionString, folder.path());
-                                      }});
+    MainWindow window(folder.path(),
+                      {boxes, dialogs, desktop, clipboard, clock, settings, diagnostics, progress,
+                       [this](std::string_view connectionString) {
+                         return OpenConnection(connectionString, folder.path());
+                       }});
     window.Start("0");
     window.PressAzione();
     if (window.ended() != EndReason::kDone) throw std::runtime_error("the update failed");

@@ -19,29 +19,30 @@ class AgendaRules : public PageRules {
       : page_(context.page),
         sink_(context.sink),
         reader_(context.reader),
-        countBegin_(context.mappings.cDelimitatori, "DELAV1"),
-        countEnd_(context.mappings.cDelimitatori, "DELAV2"),
-        caseBegin_(context.mappings.cDelimitatori, "DELAV3"),
-        caseEnd_(context.mappings.cDelimitatori, "DELAV4"),
-        entries_(context.mappings.cDelimitatori, "DELAV5"),
+        countBegin_(context.mappings.cDelimitatori, "DELAV1", context.reader.text()),
+        countEnd_(context.mappings.cDelimitatori, "DELAV2", context.reader.text()),
+        caseBegin_(context.mappings.cDelimitatori, "DELAV3", context.reader.text()),
+        caseEnd_(context.mappings.cDelimitatori, "DELAV4", context.reader.text()),
+        entries_(context.mappings.cDelimitatori, "DELAV5", context.reader.text()),
         column_(context.mappings.cDelimitatori, "DELAV6") {}
 
   AfterLine Apply(PageLine szRiga) override {
-    if (Holds(szRiga, countBegin_, countEnd_)) {
+    if (HoldsBoth(szRiga, countBegin_, countEnd_)) {
       TakeCount(szRiga);
-    } else if (Holds(szRiga, caseBegin_, caseEnd_)) {
+    } else if (HoldsBoth(szRiga, caseBegin_, caseEnd_)) {
       TakeCase(szRiga);
-    } else if (Contains(szRiga.text, entries_.text())) {
+    } else if (entries_.In(szRiga.text)) {
       TakeEntries(szRiga);
     }
     return AfterLine::kReadOn;
   }
 
  private:
-  static bool Holds(const PageLine& line, const Delimiter& one, const Delimiter& other) {
-    const std::string_view first = one.text();
-    const std::string_view second = other.text();
-    return Contains(line.text, first) && Contains(line.text, second);
+  // Both are asked for: one that the mapping file lacks is an error at the first line.
+  static bool HoldsBoth(const PageLine& line, Landmark& one, Landmark& other) {
+    const bool first = one.In(line.text);
+    const bool second = other.In(line.text);
+    return first && second;
   }
 
   void TakeCount(const PageLine& szRiga) {
@@ -79,11 +80,11 @@ class AgendaRules : public PageRules {
   Page& page_;
   ImportSink& sink_;
   PageReader& reader_;
-  Delimiter countBegin_;
-  Delimiter countEnd_;
-  Delimiter caseBegin_;
-  Delimiter caseEnd_;
-  Delimiter entries_;
+  Landmark countBegin_;
+  Landmark countEnd_;
+  Landmark caseBegin_;
+  Landmark caseEnd_;
+  Landmark entries_;
   Delimiter column_;
 };
 

@@ -25,14 +25,14 @@ class JusticeOfThePeaceRules : public PageRules {
         page_(context.page),
         sink_(context.sink),
         reader_(context.reader),
-        delimiters_(context.mappings.cDelimitatori) {}
+        delimiters_(context.mappings.cDelimitatori, context.reader.text()) {}
 
   AfterLine Apply(PageLine szRiga) override {
-    if (Holds(szRiga, delimiters_.dataSection)) {
+    if (delimiters_.dataSection.In(szRiga.text)) {
       reader_.Taken(szRiga, "inizio dati");
       dataBegun_ = true;
       partiesAwaited_ = true;
-    } else if (partiesAwaited_ && Holds(szRiga, delimiters_.parties)) {
+    } else if (partiesAwaited_ && delimiters_.parties.In(szRiga.text)) {
       TakeParties(szRiga);
     } else {
       ApplyOrdinaryRules(szRiga);
@@ -42,50 +42,46 @@ class JusticeOfThePeaceRules : public PageRules {
 
  private:
   struct Delimiters {
-    explicit Delimiters(const KeyedTable& table)
+    Delimiters(const KeyedTable& table, std::string_view page)
         : separator(table, "DELGDP1"),
-          dataSection(table, "DELGDP2"),
-          parties(table, "DELGDP3"),
-          dataLine(table, "DELGDP4"),
-          history(table, "DELGDP5"),
+          dataSection(table, "DELGDP2", page),
+          parties(table, "DELGDP3", page),
+          dataLine(table, "DELGDP4", page),
+          history(table, "DELGDP5", page),
           noEvent(table, "DELGDP6"),
           plaintiff(table, "DELGDP8"),
           defendant(table, "DELGDP9"),
           plaintiffToo(table, "DELGDP10"),
           defendantToo(table, "DELGDP11"),
           dataPiece(table, "DELGDP12"),
-          pairsLine(table, "DELGDP13"),
+          pairsLine(table, "DELGDP13", page),
           pairsPiece(table, "DELGDP14"),
-          pairsLineToo(table, "DELGDP15"),
+          pairsLineToo(table, "DELGDP15", page),
           historyColumn(table, "DELSF2") {}
 
     Delimiter separator;
-    Delimiter dataSection;
-    Delimiter parties;
-    Delimiter dataLine;
-    Delimiter history;
+    Landmark dataSection;
+    Landmark parties;
+    Landmark dataLine;
+    Landmark history;
     Delimiter noEvent;
     Delimiter plaintiff;
     Delimiter defendant;
     Delimiter plaintiffToo;
     Delimiter defendantToo;
     Delimiter dataPiece;
-    Delimiter pairsLine;
+    Landmark pairsLine;
     Delimiter pairsPiece;
-    Delimiter pairsLineToo;
+    Landmark pairsLineToo;
     Delimiter historyColumn;
   };
 
-  static bool Holds(const PageLine& line, const Delimiter& text) {
-    return Contains(line.text, text.text());
-  }
-
   void ApplyOrdinaryRules(const PageLine& szRiga) {
-    if (Holds(szRiga, delimiters_.history)) {
+    if (delimiters_.history.In(szRiga.text)) {
       TakeHistory(szRiga);
-    } else if (Holds(szRiga, delimiters_.dataLine)) {
+    } else if (delimiters_.dataLine.In(szRiga.text)) {
       TakePairs(szRiga, delimiters_.dataPiece);
-    } else if (Holds(szRiga, delimiters_.pairsLineToo) || Holds(szRiga, delimiters_.pairsLine)) {
+    } else if (delimiters_.pairsLineToo.In(szRiga.text) || delimiters_.pairsLine.In(szRiga.text)) {
       TakePairs(szRiga, delimiters_.pairsPiece);
     } else if (dataBegun_ && !ShorterThan(szRiga.text, 2)) {
       TakeField(szRiga);

@@ -33,8 +33,8 @@ TEST(HistoryPage, AnyOfTheFourHeadersOpensTheTable) {
 
 TEST(HistoryPage, AHeaderMustBeEqualToTheLetterAndTheBlank) {
   HistoryBench bench;
-  EXPECT_EQ(bench.Read({"n. giorno fatto", "N. Giorno  Fatto", "N. Giorno Fatto:",
-                        "> N. Giorno Fatto", "1 14/01/2025 x"}),
+  EXPECT_EQ(bench.Read({"n. giorno fatto", "N. Giorno  Fatto",
+                        "N. Giorno Fatto:", "> N. Giorno Fatto", "1 14/01/2025 x"}),
             Stop{});
   EXPECT_EQ(bench.sink.rows, Rows{});
 }
@@ -107,8 +107,8 @@ TEST(HistoryLineBehindTheHeader, OfTwoBlanksIsARowWithTooFewParts) {
 
 TEST(HistoryLineBehindTheHeader, MayBeEmptyOrHoldTheMarkOfNoEvent) {
   HistoryBench bench;
-  EXPECT_EQ(bench.Read({kHistoryHeader, "", "1 14/01/2025 x", kHistoryHeader, "2 ** y",
-                        "3 15/01/2025 z"}),
+  EXPECT_EQ(bench.Read(
+                {kHistoryHeader, "", "1 14/01/2025 x", kHistoryHeader, "2 ** y", "3 15/01/2025 z"}),
             Stop{});
   EXPECT_EQ(bench.sink.rows,
             (Rows{HistoryRow("1", "14/01/2025", "x"), HistoryRow("3", "15/01/2025", "z")}));
@@ -138,8 +138,8 @@ TEST(HistoryEvent, PartedByThreeBlanksKeepsOneOfThemForTheNextPart) {
 
 TEST(HistoryEvent, IsNoLineThatHoldsTheMarkWhereverItStands) {
   HistoryBench bench;
-  EXPECT_EQ(bench.Read({kHistoryHeader, "1 14/01/2025 x", "**", "** 2 15/01/2025 y",
-                        "3 16/01 ** z", "4 17/01/2025 w**", "5 18/01/2025 * v *"}),
+  EXPECT_EQ(bench.Read({kHistoryHeader, "1 14/01/2025 x", "**", "** 2 15/01/2025 y", "3 16/01 ** z",
+                        "4 17/01/2025 w**", "5 18/01/2025 * v *"}),
             Stop{});
   EXPECT_EQ(bench.sink.rows,
             (Rows{HistoryRow("1", "14/01/2025", "x"), HistoryRow("5", "18/01/2025", "* v *")}));
@@ -156,9 +156,8 @@ TEST(HistoryEvent, IsNoLineOfFewerThanTwoCharacters) {
 
 TEST(HistoryEvent, WithFewerThanThreePartsStopsTheImportAndKeepsTheRowsSoFar) {
   HistoryBench bench;
-  EXPECT_EQ(
-      bench.Read({kHistoryHeader, "1 14/01/2025 x", "2 15/01/2025", "3 16/01/2025 z"}),
-      StopInPage(9, TooFewParts(2, 3), 3, "2 15/01/2025"));
+  EXPECT_EQ(bench.Read({kHistoryHeader, "1 14/01/2025 x", "2 15/01/2025", "3 16/01/2025 z"}),
+            StopInPage(9, TooFewParts(2, 3), 3, "2 15/01/2025"));
   EXPECT_EQ(bench.sink.rows, (Rows{HistoryRow("1", "14/01/2025", "x")}));
   EXPECT_FALSE(bench.paging.bStoricoVuoto);
 }

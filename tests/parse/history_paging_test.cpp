@@ -105,7 +105,9 @@ TEST_F(HistoryPlace, EndsAtTheFirstLineBreak) {
 // --- numbers that cannot be read ----------------------------------------------------------------
 
 TEST_F(HistoryPlace, KeepsThePageThatCannotBeRead) {
-  EXPECT_EQ(ReadFrom("Lista(42voci)Fogliodue" "su5\r\n"), (Place{7, 5, 42}));
+  EXPECT_EQ(ReadFrom("Lista(42voci)Fogliodue"
+                     "su5\r\n"),
+            (Place{7, 5, 42}));
   EXPECT_EQ(ReadFrom("Lista(42voci)Fogliosu6\r\n"), (Place{7, 6, 42}));
   EXPECT_EQ(ReadFrom("Lista(42voci)Foglio32768su4\r\n"), (Place{7, 4, 42}));
 }

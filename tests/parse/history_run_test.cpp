@@ -83,8 +83,7 @@ TEST_F(HistoryRun, APageThatTellsNoPlaceYieldsNothingBehindARepeatedOne) {
 }
 
 TEST_F(HistoryRun, APageWhoseImportStoppedCanBeCopiedAgain) {
-  EXPECT_EQ(Copy(kPlace2Of5, {"1 a b", "guasta"}),
-            StopInPage(9, TooFewParts(1, 3), 5, "guasta"));
+  EXPECT_EQ(Copy(kPlace2Of5, {"1 a b", "guasta"}), StopInPage(9, TooFewParts(1, 3), 5, "guasta"));
   EXPECT_EQ(Copy(kPlace2Of5, {"1 a b", "2 c d"}), Stop{});
   EXPECT_EQ(bench_.sink.rows,
             (Rows{HistoryRow("1", "a", "b", "2/5"), HistoryRow("1", "a", "b", "2/5"),

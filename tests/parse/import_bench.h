@@ -2,6 +2,7 @@
 // recorders for all that comes out.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -95,6 +96,12 @@ inline NamedValues ValuesOf(const KeyedTable& table) {
   for (const KeyedTable::Entry& entry : table.Entries()) {
     values.emplace_back(entry.key, entry.value);
   }
+  return values;
+}
+
+// By key, for values whose order means nothing.
+inline NamedValues Sorted(NamedValues values) {
+  std::sort(values.begin(), values.end());
   return values;
 }
 

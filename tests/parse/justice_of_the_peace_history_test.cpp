@@ -1,6 +1,8 @@
 // The history that a justice-of-the-peace page carries with it.
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -15,9 +17,9 @@ TEST(JusticeHistory, IsAHeadingAndAnEventForEachLineUpToTheEmptyOne) {
   EXPECT_EQ(bench.Read({"I MOVIMENTI:", "08/10/2025 Deposito del ricorso", "10/10/2025 Udienza", "",
                         "11/10/2025 fuori"}),
             Stop{});
-  EXPECT_EQ(bench.sink.rows, (Rows{kHistoryHeadingRow,
-                                   EventRow("08/10/2025", "Deposito del ricorso"),
-                                   EventRow("10/10/2025", "Udienza")}));
+  EXPECT_EQ(bench.sink.rows,
+            (Rows{kHistoryHeadingRow, EventRow("08/10/2025", "Deposito del ricorso"),
+                  EventRow("10/10/2025", "Udienza")}));
   EXPECT_EQ(bench.Values(), NamedValues{});
 }
 
@@ -61,10 +63,9 @@ TEST(JusticeHistory, ReadsNoOtherRuleInItsLines) {
   EXPECT_EQ(bench.Read({"Dati della causa", "MOVIMENTI", "Oggetto: x", "Le parti", "Ricorre: A",
                         "MOVIMENTI vari", "", "Note: y"}),
             Stop{});
-  EXPECT_EQ(bench.sink.rows,
-            (Rows{kHistoryHeadingRow, EventRow("Oggetto:", "x"), EventRow("Le", "parti"),
-                  EventRow("Ricorre:", "A"), EventRow("MOVIMENTI", "vari"),
-                  FieldRow("Note", "Note", "y")}));
+  EXPECT_EQ(bench.sink.rows, (Rows{kHistoryHeadingRow, EventRow("Oggetto:", "x"),
+                                   EventRow("Le", "parti"), EventRow("Ricorre:", "A"),
+                                   EventRow("MOVIMENTI", "vari"), FieldRow("Note", "Note", "y")}));
   EXPECT_EQ(bench.sink.parties, Parties{});
 }
 
@@ -88,7 +89,8 @@ TEST(JusticeHistory, WithAnEventOfOnePartStopsThereAndKeepsTheRowsSoFar) {
 }
 
 TEST(JusticeHistory, IsEndedQuietlyByTheEndOfTheFile) {
-  for (const std::string page : {"MOVIMENTI", "MOVIMENTI\r\n", "MOVIMENTI\n\n", "MOVIMENTI\n\n\n"}) {
+  for (const std::string page :
+       {"MOVIMENTI", "MOVIMENTI\r\n", "MOVIMENTI\n\n", "MOVIMENTI\n\n\n"}) {
     JusticeBench bench;
     EXPECT_EQ(bench.ReadBytes(page), Stop{});
     EXPECT_EQ(bench.sink.rows, Rows{kHistoryHeadingRow});
@@ -113,12 +115,12 @@ TEST(JusticeHistory, IsEndedByAClosingQuoteRightBehindItsHeadingToo) {
 TEST(JusticeHistory, HasEachOfItsLinesTakenByOneRule) {
   JusticeBench bench;
   bench.Read({"MOVIMENTI", "", "Giorno Fatto", "08/10/2025 a", "", "altro"});
-  EXPECT_EQ(bench.trace.takers, (std::map<std::size_t, std::vector<std::string>>{
-                                    {1, {"storico"}},
-                                    {2, {"fine blocco"}},
-                                    {3, {"riga saltata"}},
-                                    {4, {"evento"}},
-                                    {5, {"fine blocco"}}}));
+  EXPECT_EQ(bench.trace.takers,
+            (std::map<std::size_t, std::vector<std::string>>{{1, {"storico"}},
+                                                             {2, {"fine blocco"}},
+                                                             {3, {"riga saltata"}},
+                                                             {4, {"evento"}},
+                                                             {5, {"fine blocco"}}}));
 }
 
 }  // namespace

@@ -54,8 +54,9 @@ TEST(JusticePage, EveryImportBeginsBeforeTheDataSection) {
 TEST(JusticePage, RepeatedValuesOfAFieldAreJoined) {
   JusticeBench bench;
   EXPECT_EQ(bench.Read({kData, "Note: A", "Oggetto: x", "Avvisi: B"}), Stop{});
-  EXPECT_EQ(bench.sink.rows, (Rows{FieldRow("Note", "Note", "A"), FieldRow("Oggetto", "Oggetto", "x"),
-                                   FieldRow("Note", "Avvisi", "B")}));
+  EXPECT_EQ(bench.sink.rows,
+            (Rows{FieldRow("Note", "Note", "A"), FieldRow("Oggetto", "Oggetto", "x"),
+                  FieldRow("Note", "Avvisi", "B")}));
   EXPECT_EQ(bench.Values(), (NamedValues{{"Oggetto", "x"}, {"Note", "A; \r\nB"}}));
 }
 
@@ -87,9 +88,9 @@ TEST(JusticeDataLine, IsCutIntoLabelsAndValuesAlsoBeforeTheDataSection) {
   JusticeBench bench;
   EXPECT_EQ(bench.Read({"Ruolo ; N. Ruolo: 4417/2025 ;  Materia :  a: b  ; Sede: X ; Oggetto:"}),
             Stop{});
-  EXPECT_EQ(bench.sink.rows, (Rows{FieldRow("NumeroRegGenerale", "N. Ruolo", "4417/2025"),
-                                   FieldRow("Materia", "Materia", "a: b"),
-                                   FieldRow("Oggetto", "Oggetto", "")}));
+  EXPECT_EQ(bench.sink.rows,
+            (Rows{FieldRow("NumeroRegGenerale", "N. Ruolo", "4417/2025"),
+                  FieldRow("Materia", "Materia", "a: b"), FieldRow("Oggetto", "Oggetto", "")}));
   EXPECT_EQ(
       bench.Values(),
       (NamedValues{{"NumeroRegGenerale", "4417/2025"}, {"Materia", "a: b"}, {"Oggetto", ""}}));
@@ -98,9 +99,10 @@ TEST(JusticeDataLine, IsCutIntoLabelsAndValuesAlsoBeforeTheDataSection) {
 
 TEST(JusticeDataLine, OfPairsIsKnownByEitherOfItsTwoMarks) {
   JusticeBench bench;
-  EXPECT_EQ(bench.Read({"Giudice | Sezione: Unica | Magistrato: ROSSI",
-                        "Udienze | Ultima udienza: 11/12/2025 10:30 | Prossima udienza: 17/03/2026"}),
-            Stop{});
+  EXPECT_EQ(
+      bench.Read({"Giudice | Sezione: Unica | Magistrato: ROSSI",
+                  "Udienze | Ultima udienza: 11/12/2025 10:30 | Prossima udienza: 17/03/2026"}),
+      Stop{});
   EXPECT_EQ(bench.sink.rows, (Rows{FieldRow("Sezione", "Sezione", "Unica"),
                                    FieldRow("Istruttore", "Magistrato", "ROSSI"),
                                    FieldRow("DUUd", "Ultima udienza", "11/12/2025 10:30"),

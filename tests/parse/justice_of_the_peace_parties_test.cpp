@@ -1,9 +1,9 @@
 // The parties block of a justice-of-the-peace page.
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <cstddef>
+#include <map>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "import_bench.h"
@@ -11,12 +11,6 @@
 
 namespace ordex::testing {
 namespace {
-
-// The values by key: the order in which a party's values are stored means nothing.
-NamedValues Sorted(NamedValues values) {
-  std::sort(values.begin(), values.end());
-  return values;
-}
 
 // A page whose parties block has these lines and ends with an empty one.
 Stop ReadParties(JusticeBench& bench, const std::vector<std::string>& lines) {
@@ -33,8 +27,8 @@ TEST(JusticeParties, APlaintiffAndADefendantAreStoredShownAndOffered) {
             Stop{});
   EXPECT_EQ(bench.sink.rows,
             (Rows{FieldRow("ParteAttrice", "Ricorre:", "ROSSI M. rappresentato/a da Avv. Neri"),
-                  FieldRow("ParteConvenuta", "Resiste:",
-                           "BIANCHI S.P.A.  rappresentato/a da  Avv. Verdi")}));
+                  FieldRow("ParteConvenuta",
+                           "Resiste:", "BIANCHI S.P.A.  rappresentato/a da  Avv. Verdi")}));
   EXPECT_EQ(Sorted(bench.Values()),
             (NamedValues{{"Attore", "ROSSI M."},
                          {"Convenuto", "BIANCHI S.P.A."},
@@ -93,8 +87,7 @@ TEST(JusticeParties, OfOneSideMayBeSeveralAndTheFirstKeepsTheKey) {
   EXPECT_EQ(ReadParties(bench, {"Ricorre: A", "Agisce: B rappresentato/a da X", "Resiste: C",
                                 "Resiste: D rappresentato/a da Y", "Ricorre: E"}),
             Stop{});
-  EXPECT_EQ(bench.sink.parties,
-            (Parties{{"A", ""}, {"B", "X"}, {"C", ""}, {"D", "Y"}, {"E", ""}}));
+  EXPECT_EQ(bench.sink.parties, (Parties{{"A", ""}, {"B", "X"}, {"C", ""}, {"D", "Y"}, {"E", ""}}));
   EXPECT_EQ(bench.sink.rows, (Rows{FieldRow("ParteAttrice", "Ricorre:", "A"),
                                    FieldRow("", "Agisce:", "B rappresentato/a da X"),
                                    FieldRow("ParteConvenuta", "Resiste:", "C"),
@@ -124,10 +117,10 @@ TEST(JusticeParties, OtherLinesOfTheBlockGoThroughTheOrdinaryRules) {
   EXPECT_EQ(ReadParties(bench, {"  Note: a ", "Stanza: 2", "x", "   ", "Ricorre: A",
                                 "Udienze | Prossima udienza: 17/03/2026", "Ruolo ; Materia: m"}),
             Stop{});
-  EXPECT_EQ(
-      bench.sink.rows,
-      (Rows{FieldRow("Note", "Note", "a"), FieldRow("ParteAttrice", "Ricorre:", "A"),
-            FieldRow("DPUd", "Prossima udienza", "17/03/2026"), FieldRow("Materia", "Materia", "m")}));
+  EXPECT_EQ(bench.sink.rows,
+            (Rows{FieldRow("Note", "Note", "a"), FieldRow("ParteAttrice", "Ricorre:", "A"),
+                  FieldRow("DPUd", "Prossima udienza", "17/03/2026"),
+                  FieldRow("Materia", "Materia", "m")}));
 }
 
 // --- begin and end of the block -----------------------------------------------------------------
@@ -190,13 +183,13 @@ TEST(JusticePartiesBlock, NamesTheLineThatFails) {
 TEST(JusticePartiesBlock, HasEachOfItsLinesTakenByOneRule) {
   JusticeBench bench;
   ReadParties(bench, {"Ricorre: A", "Note: a", "nulla", "Risponde: B"});
-  EXPECT_EQ(bench.trace.takers, (std::map<std::size_t, std::vector<std::string>>{
-                                    {1, {"inizio dati"}},
-                                    {2, {"parti"}},
-                                    {3, {"parte"}},
-                                    {4, {"campo"}},
-                                    {6, {"parte"}},
-                                    {7, {"fine blocco"}}}));
+  EXPECT_EQ(bench.trace.takers,
+            (std::map<std::size_t, std::vector<std::string>>{{1, {"inizio dati"}},
+                                                             {2, {"parti"}},
+                                                             {3, {"parte"}},
+                                                             {4, {"campo"}},
+                                                             {6, {"parte"}},
+                                                             {7, {"fine blocco"}}}));
 }
 
 }  // namespace

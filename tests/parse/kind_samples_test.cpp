@@ -71,11 +71,6 @@ TEST(AgendaSamples, TheEmptyWeekStatesNone) {
 
 // --- justice of the peace -----------------------------------------------------------------------
 
-NamedValues Sorted(NamedValues values) {
-  std::sort(values.begin(), values.end());
-  return values;
-}
-
 TEST(JusticeSamples, TheOppositionGivesItsPageValuesAndParties) {
   const SampleImport sample("giudice-di-pace-opposizione");
   EXPECT_EQ(sample.page.szNumeroRG, "4417/2025");

@@ -109,9 +109,7 @@ inline constexpr std::string_view kJusticeFields =
     "ParteConvenuta=Resiste:\n";
 
 struct JusticeBench : PageBench {
-  JusticeBench() : PageBench(kPageJusticeOfThePeace, kJusticeDelimiters) {
-    Fields(kJusticeFields);
-  }
+  JusticeBench() : PageBench(kPageJusticeOfThePeace, kJusticeDelimiters) { Fields(kJusticeFields); }
 };
 
 inline const Row kHistoryHeadingRow{"", "--STORICO DEL FASCICOLO--", "", "", ""};

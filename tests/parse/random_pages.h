@@ -43,6 +43,27 @@ inline std::string RandomBytes(Dice& dice, std::size_t most) {
   return bytes;
 }
 
+// Some of these words, parted by single blanks.
+template <std::size_t kCount>
+std::string SomeOf(Dice& dice, const std::array<const char*, kCount>& words) {
+  std::string text = dice.OneOf(words);
+  for (std::size_t i = dice.Below(4); i > 0; --i) text += " " + dice.OneOf(words);
+  return text;
+}
+
+inline std::string Padded(Dice& dice, const std::string& core) {
+  std::string padded = dice.Blanks();
+  return padded.append(core).append(dice.Blanks());
+}
+
+// Bits of pages in any order: gets deeper into the rules than plain bytes.
+template <std::size_t kCount>
+std::string PiecesOf(Dice& dice, const std::array<const char*, kCount>& pieces) {
+  std::string text;
+  for (std::size_t count = dice.Below(120); count > 0; --count) text += dice.OneOf(pieces);
+  return text;
+}
+
 // Some bytes of the text changed, put in or taken out.
 inline std::string Damaged(Dice& dice, std::string text) {
   for (std::size_t count = 1 + dice.Below(30); count > 0 && !text.empty(); --count) {
@@ -95,6 +116,13 @@ inline void ExpectSound(const ImportBench& bench, const Stop& stop, const std::s
     ASSERT_GE(line, 1U);
     ASSERT_LE(line, lines.size());
   }
+}
+
+// The rule that took each line, "none" where there was none.
+inline std::vector<std::string> TakerOfEachLine(const RecordingTrace& trace) {
+  std::vector<std::string> takers;
+  for (const auto& line : trace.lines) takers.push_back(trace.FirstTaker(line.number));
+  return takers;
 }
 
 inline void ExpectNoLineTakenTwice(const ImportBench& bench) {

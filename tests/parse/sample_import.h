@@ -18,8 +18,7 @@ namespace ordex::testing {
 // The page as it lies in the page file: a text between double quotes; the tabs of a history page
 // are blanks there, those of the other pages are gone.
 inline std::string PageFileText(const std::string& clipboardText, std::int16_t kind) {
-  const std::string page =
-      ReplaceAll(ToCrLf(clipboardText), "\t", kind == kPageHistory ? " " : "");
+  const std::string page = ReplaceAll(ToCrLf(clipboardText), "\t", kind == kPageHistory ? " " : "");
   return "\"" + page + "\"\r\n";
 }
 
@@ -39,8 +38,8 @@ class SampleRun {
     RiconosciPagina(mappings_, page, paging, clipboard, boxes);
     text = PageFileText(clipboard.text, page.iOrdexPage);
     folder_.Write("pagina.txt", text);
-    return StopOf(Import({folder_.path(), mappings_, page, paging, sink, &trace}, "pagina",
-                         page.iOrdexPage));
+    return StopOf(
+        Import({folder_.path(), mappings_, page, paging, sink, &trace}, "pagina", page.iOrdexPage));
   }
 
   std::string text;  // of the page file
