@@ -34,7 +34,7 @@ void AllowOwnerOnly(const fs::path& file) {
 
 }  // namespace
 
-PageFileOnDisk::PageFileOnDisk(fs::path programFolder, std::string_view szNameTxt)
+PageFileOnDisk::PageFileOnDisk(const fs::path& programFolder, std::string_view szNameTxt)
     : path_(PageFile(programFolder, szNameTxt)) {}
 
 PageFileOnDisk::~PageFileOnDisk() {

@@ -14,7 +14,7 @@ namespace ordex {
 // import takes. Goes away with this object unless it is to be kept.
 class PageFileOnDisk {
  public:
-  PageFileOnDisk(std::filesystem::path programFolder, std::string_view szNameTxt);
+  PageFileOnDisk(const std::filesystem::path& programFolder, std::string_view szNameTxt);
   ~PageFileOnDisk();
   PageFileOnDisk(const PageFileOnDisk&) = delete;
   PageFileOnDisk& operator=(const PageFileOnDisk&) = delete;

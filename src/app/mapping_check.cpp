@@ -20,6 +20,9 @@ constexpr std::array<std::string_view, 11> kLabelKeys = {
     "TESTO4", "DELGDP8", "DELGDP9", "DELGDP10", "DELGDP11"};
 // Those that are looked up in the field map as they stand.
 constexpr std::array<std::string_view, 3> kMappedKeys = {"DELPF1", "DELGDP8", "DELGDP9"};
+// Those that are compared with a label already cut at the separator and trimmed.
+constexpr std::array<std::string_view, 6> kCutLabelKeys = {"DELPF7", "DELPF8", "TESTO1",
+                                                           "TESTO2", "TESTO3", "TESTO4"};
 // Searched for in a text without blanks.
 constexpr std::array<std::string_view, 4> kBlanklessKeys = {"DELSF4", "DELSF5", "DELSF6", "DELSF7"};
 constexpr std::array<std::string_view, 4> kReservedFields = {"Attore", "DifAttore", "Convenuto",
@@ -41,13 +44,14 @@ bool IsOneOf(const Texts& texts, std::string_view text) {
                      [text](std::string_view one) { return EqualIgnoringCase(one, text); });
 }
 
-// Accented letters that were saved as UTF-8 and read as single bytes begin with "Ã" or "Â".
+// Accented letters that were saved as UTF-8 and read as single bytes begin with "Ã" or "Â", and
+// what follows is no ASCII character either.
 bool LooksDoublyEncoded(std::string_view text) {
   for (const std::string_view lead : {"Ã", "Â"}) {
     for (std::size_t at = text.find(lead); at != std::string_view::npos;
          at = text.find(lead, at + 1)) {
-      const std::string_view next = text.substr(at + lead.size(), 2);
-      if (next.size() == 2 && static_cast<unsigned char>(next[0]) == 0xC2) return true;
+      const std::size_t next = at + lead.size();
+      if (next < text.size() && static_cast<unsigned char>(text[next]) >= 0x80) return true;
     }
   }
   return Contains(text, "\xEF\xBF\xBD");
@@ -62,11 +66,8 @@ class Check {
   }
 
   std::vector<Finding> Run() {
-    CheckRecognition();
-    CheckDelimiterKeys();
-    CheckDelimiterTexts();
-    CheckFields();
-    CheckLabels();
+    // Of a file that is not there every key would be missing.
+    if (allRead_) CheckTexts();
     std::stable_sort(findings_.begin(), findings_.end(), [](const Finding& a, const Finding& b) {
       return std::pair(a.file, a.line) < std::pair(b.file, b.line);
     });
@@ -75,6 +76,14 @@ class Check {
 
  private:
   using Entries = std::vector<MappingLine>;
+
+  void CheckTexts() {
+    CheckRecognition();
+    CheckDelimiterKeys();
+    CheckDelimiterTexts();
+    CheckFields();
+    CheckLabels();
+  }
 
   void Add(std::string_view file, std::size_t line, Severity severity, std::string text) {
     findings_.push_back({std::string(file), line, severity, std::move(text)});
@@ -86,6 +95,7 @@ class Check {
       entries = ReadMappingLines(programFolder / file);
     } catch (const FileLineError& error) {
       Add(file, 0, Severity::kError, error.description());
+      allRead_ = false;
       return entries;
     }
     CheckLines(file, entries);
@@ -238,13 +248,14 @@ class Check {
     }
   }
 
-  // Returns whether the label is one of the delimiters' texts, or nearly.
+  // Returns whether the label is one of the delimiters' texts that are looked up as they stand, or
+  // nearly a delimiter's text.
   bool CheckAgainstDelimiters(const MappingLine& label) {
     const MappingLine* near = nullptr;
     for (const std::string_view key : kLabelKeys) {
       const MappingLine* line = DelimiterLine(key);
       if (line == nullptr || line->left.empty()) continue;
-      if (line->left == label.right) return true;
+      if (line->left == label.right) return !IsOneOf(kCutLabelKeys, key);
       if (Bare(line->left) == Bare(label.right)) near = line;
     }
     if (near == nullptr) return false;
@@ -257,6 +268,7 @@ class Check {
     return true;
   }
 
+  bool allRead_ = true;
   Entries recognition_;
   Entries fields_;
   Entries delimiters_;
@@ -272,8 +284,14 @@ std::vector<Finding> CheckMappings(const std::filesystem::path& programFolder) {
 std::vector<Finding> CheckColumns(const std::filesystem::path& programFolder,
                                   Connection& connection) {
   std::vector<Finding> findings;
+  std::vector<MappingLine> lines;
+  try {
+    lines = ReadMappingLines(programFolder / kMapCampi);
+  } catch (const FileLineError&) {
+    return findings;  // of the files, and told with the others of theirs
+  }
   const std::vector<ColumnInfo>& columns = connection.TableColumns("PraOrdex");
-  for (const MappingLine& line : ReadMappingLines(programFolder / kMapCampi)) {
+  for (const MappingLine& line : lines) {
     const bool known = std::any_of(
         columns.begin(), columns.end(),
         [&line](const ColumnInfo& column) { return EqualIgnoringCase(column.name, line.left); });

@@ -49,11 +49,17 @@ class PageCheck {
   }
 
   std::vector<Finding> Finish() {
-    Unused(kMapRestr, "Nessuna delle pagine viene riconosciuta da ",
-           [this](const MappingLine& line) { return kinds_.contains(line.right); });
+    Unused(
+        kMapRestr, "Nessuna delle pagine viene riconosciuta da ",
+        "se il titolo è cambiato correggere il testo. La riga non va tolta: l'ordine delle righe "
+        "è fisso.",
+        [this](const MappingLine& line) { return kinds_.contains(line.right); });
     Unused(kMapCampi, "Nessuna delle pagine usa l'etichetta ",
+           "se il portale non la usa più togliere la riga, altrimenti correggerla.",
            [this](const MappingLine& line) { return labels_.contains(Lower(Trim(line.right))); });
     Unused(kMapDelimitatori, "In nessuna delle pagine compare il testo di ",
+           "se la dicitura è cambiata correggere il testo. La riga non va tolta: senza la chiave "
+           "l'importazione si ferma.",
            [this](const MappingLine& line) { return texts_.find(line.left) != std::string::npos; });
     return std::move(findings_);
   }
@@ -81,12 +87,12 @@ class PageCheck {
   }
 
   template <class IsUsed>
-  void Unused(std::string_view file, std::string_view what, IsUsed isUsed) {
+  void Unused(std::string_view file, std::string_view what, std::string_view advice,
+              IsUsed isUsed) {
     for (const MappingLine& line : ReadMappingLines(programFolder_ / file)) {
       if (!line.hasEquals || isUsed(line)) continue;
       Add(std::string(file), line.number, Severity::kWarning,
-          std::string(what) + "\"" + line.right + "\" (" + line.text +
-              "): se il portale non la usa più togliere la riga, altrimenti correggerla.");
+          std::string(what) + "\"" + line.right + "\" (" + line.text + "): " + std::string(advice));
     }
   }
 

@@ -36,12 +36,16 @@ class TrialFolder {
   TrialFolder() {
     std::random_device random;
     std::error_code failure;
-    do {
-      path_ = fs::temp_directory_path() / ("ordex-prova-" + std::to_string(random()));
-    } while (!fs::create_directory(path_, failure) && !failure);
+    const fs::path parent = fs::temp_directory_path(failure);
+    bool created = false;
+    while (!created && !failure) {
+      path_ = parent / ("ordex-prova-" + std::to_string(random()));
+      created = fs::create_directory(path_, failure);
+    }
     if (failure) {
       throw MakeError(ErrorNumber::kFileAccess,
-                      "impossibile creare la cartella temporanea \"" + path_.string() + "\"");
+                      "impossibile creare una cartella temporanea. Controllare che la cartella dei "
+                      "file temporanei esista e che i diritti bastino.");
     }
     fs::permissions(path_, fs::perms::owner_all, failure);
   }
@@ -102,12 +106,22 @@ std::unique_ptr<PageTrial> TryPage(const fs::path& programFolder, std::string_vi
   LocateMappings(window.mappings, programFolder);
   LoadRestr(window.mappings);
   SetWidthlstAgenda(window.lstAgendaAvv);
-  if (!RiconosciPagina(window.mappings, window.page, window.paging, clipboard, boxes)) {
-    return nullptr;
+  try {
+    if (!RiconosciPagina(window.mappings, window.page, window.paging, clipboard, boxes)) {
+      return nullptr;
+    }
+  } catch (const FileLineError&) {
+    throw;
+  } catch (const RunTimeError& error) {
+    // The history's place cannot be read: a fault of the page, like those of the import.
+    trial->stop = ImportStop{error, 0, {}, false};
   }
   LoadOrdexMap(window.mappings);
+  // The import loads them itself, but takes a broken file for a fault of the page.
+  LoadDelimitatori(window.mappings);
   SetCaption(window);
   window.page.pageAtOpening = window.page.iOrdexPage;
+  if (trial->stop) return trial;
 
   const TrialFolder folder;
   TxtfromClipboard(folder.path(), window.page.szNameTxt, clipboard);

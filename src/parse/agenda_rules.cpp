@@ -54,7 +54,9 @@ class AgendaRules : public PageRules {
   void TakeCase(const PageLine& szRiga) {
     reader_.Taken(szRiga, "fascicolo");
     const auto pieces = Split(Split(szRiga.text, caseEnd_.text(), 2)[0], column_.text());
-    sink_.AggiungiRigaAgenda(Part(pieces, 2), Part(pieces, 1), true);
+    // The last piece that is needed is asked for first, so that an error names how many are.
+    const std::string_view number = Part(pieces, 2);
+    sink_.AggiungiRigaAgenda(number, pieces[1], true);
   }
 
   // The lines of the block are not trimmed. A line that begins the next case ends it too, and is
@@ -65,7 +67,8 @@ class AgendaRules : public PageRules {
     while (!line.text.empty() && !line.text.starts_with(caseBegin_.text())) {
       reader_.Taken(line, "impegno");
       const auto parts = Split(line.text, column_.text(), 3);
-      sink_.AggiungiRigaAgenda(Indented(Part(parts, 1)), Indented(Trim(Part(parts, 2))), false);
+      const std::string_view description = Part(parts, 2);
+      sink_.AggiungiRigaAgenda(Indented(parts[1]), Indented(Trim(description)), false);
       line = reader_.Next();
     }
     if (line.text.empty()) {

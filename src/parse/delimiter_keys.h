@@ -56,6 +56,8 @@ inline constexpr std::array kDelimiterKeys = {
     DelimiterKey{kPageJusticeOfThePeace, "DELGDP13"},
     DelimiterKey{kPageJusticeOfThePeace, "DELGDP14"},
     DelimiterKey{kPageJusticeOfThePeace, "DELGDP15"},
+    // The events of its history are cut like those of a history page.
+    DelimiterKey{kPageJusticeOfThePeace, "DELSF2"},
 };
 
 }  // namespace ordex

@@ -49,8 +49,9 @@ class HistoryRules : public PageRules {
     reader_.Taken(szRiga, "evento");
     const std::string halved = ReplaceAll(szRiga.text, "  ", " ");
     const auto parts = Split(halved, column_.text(), 3);
-    sink_.WriteListView(Trim(Part(parts, 0)), Trim(Part(parts, 1)), Trim(Part(parts, 2)),
-                        PageReference(), "");
+    // The last part is asked for first, so that an error names how many are needed.
+    const std::string_view description = Part(parts, 2);
+    sink_.WriteListView(Trim(parts[0]), Trim(parts[1]), Trim(description), PageReference(), "");
     paging_.bStoricoVuoto = false;
   }
 

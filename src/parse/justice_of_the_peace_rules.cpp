@@ -167,7 +167,7 @@ class JusticeOfThePeaceRules : public PageRules {
     reader_.Taken(szRiga, "storico");
     auto line = NextOfBlock();
     // One empty line may stand behind the heading.
-    if (!line) line = NextOfBlock();
+    if (!line && reader_.InWork().text.empty()) line = NextOfBlock();
     reader_.WorkOn(szRiga);
     sink_.WriteListView("", kHistoryHeading, "", "", "");
     for (; line; line = NextOfBlock()) {

@@ -15,13 +15,12 @@ using Cases = std::vector<std::int32_t>;
 using Texts = std::vector<std::string>;
 
 const BoxText kCaseUpdated = {"La pratica di Praxion è stata aggiornata con i dati di OrdexWeb.",
-                              "Pratica Praxion aggiornata", BoxIcon::kInformation,
-                              BoxButtons::kOk};
+                              "Pratica Praxion aggiornata", BoxIcon::kInformation, BoxButtons::kOk};
 const BoxText kPenalCase = {
     "La pratica è penale e non può essere aggiornata con i dati di OrdexWeb.", "Pratica Penale",
     BoxIcon::kWarning, BoxButtons::kOk};
-const BoxText kAgendaUpdated = {"L'Agenda di Praxion è stata aggiornata !",
-                                "Operazione effettuata", BoxIcon::kInformation, BoxButtons::kOk};
+const BoxText kAgendaUpdated = {"L'Agenda di Praxion è stata aggiornata !", "Operazione effettuata",
+                                BoxIcon::kInformation, BoxButtons::kOk};
 
 struct KindFixture : ActionFixture {
   explicit KindFixture(PageKind kind) {
@@ -221,7 +220,7 @@ TEST(ActionOnAProfile, ShowsNoPartiesDialog) {
 }
 
 TEST(ActionOnAnyOtherKind, DoesNothing) {
-  for (const std::int16_t kind : {-1, 0, 5}) {
+  for (const std::int16_t kind : std::vector<std::int16_t>{-1, 0, 5}) {
     AgendaPage action;
     action.page.pageAtOpening = kind;
     action.control.LoadCase(2);

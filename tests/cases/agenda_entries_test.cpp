@@ -18,12 +18,13 @@ TEST(AgendaEntries, AskTheseQuestionsInThisOrder) {
   agenda.Case("1842/2025");
   agenda.Entry("12/03/2026", "Deposito della perizia");
   agenda.Write();
-  EXPECT_EQ(agenda.office.diagnostics.sql,
-            (Texts{"SELECT ID_Pra,ID_Cliente,ID_Contab,Utenti.NomeUtente from Pratica inner join "
-                   "Utenti on Pratica.ID_Contab = Utenti.ID_Utente  where "
-                   "Pratica.NumeroRegGenerale = '1842/2025'",
-                   "SELECT * from SCADENZE where  Data_End =#03/12/2026# and Codice_Pra = 2 and "
-                   "Parti = \"ROSSI / BIANCHI\" and ucase(Scadenza) = \"DEPOSITO DELLA PERIZIA\""}));
+  EXPECT_EQ(
+      agenda.office.diagnostics.sql,
+      (Texts{"SELECT ID_Pra,ID_Cliente,ID_Contab,Utenti.NomeUtente from Pratica inner join "
+             "Utenti on Pratica.ID_Contab = Utenti.ID_Utente  where "
+             "Pratica.NumeroRegGenerale = '1842/2025'",
+             "SELECT * from SCADENZE where  Data_End =#03/12/2026# and Codice_Pra = 2 and "
+             "Parti = \"ROSSI / BIANCHI\" and ucase(Scadenza) = \"DEPOSITO DELLA PERIZIA\""}));
 }
 
 TEST(AgendaEntries, AreAddedWithTheseColumnsAndNoOthers) {
@@ -139,6 +140,14 @@ TEST(AgendaEntries, AreCutAtTwoHundredCharacters) {
   agenda.Entry("13/03/2026", two_hundred + "x");
   agenda.Write();
   EXPECT_EQ(agenda.Agenda("Scadenza"), (Texts{two_hundred, two_hundred}));
+}
+
+TEST(AgendaEntries, CutBehindABlankKeepTheBlank) {
+  AgendaListFixture agenda;
+  agenda.Case("1842/2025");
+  agenda.Entry("12/03/2026", std::string(199, 'y') + " fuori");
+  agenda.Write();
+  EXPECT_EQ(agenda.Agenda("Scadenza"), (Texts{std::string(199, 'y') + " "}));
 }
 
 TEST(AgendaEntries, KeepApostrophesAndQuotes) {

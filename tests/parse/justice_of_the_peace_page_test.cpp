@@ -115,7 +115,7 @@ TEST(JusticeDataLine, OfPairsIsKnownByEitherOfItsTwoMarks) {
 
 TEST(JusticeDataLine, PassesEmptyPiecesOver) {
   JusticeBench bench;
-  EXPECT_EQ(bench.Read({"Ruolo ;  ;  ; Note: a ; ", "Giudice |  |   | Sezione: b | "}), Stop{});
+  EXPECT_EQ(bench.Read({"Ruolo ;  ;  ; Note: a ;    ; x", "Giudice |  |   | Sezione: b"}), Stop{});
   EXPECT_EQ(bench.sink.rows,
             (Rows{FieldRow("Note", "Note", "a"), FieldRow("Sezione", "Sezione", "b")}));
 }

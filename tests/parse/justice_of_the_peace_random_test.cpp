@@ -104,7 +104,8 @@ class KnownJustice {
     for (std::size_t count = dice_.Below(4); count > 0; --count) {
       line += between + (dice_.Below(4) == 0 ? dice_.Blanks() : Pair());
     }
-    Line(Padded(dice_, line), "più campi");
+    // A mark that ends the line would lose its blank to the trimming.
+    Line(Padded(dice_, line + between + "fine"), "più campi");
   }
 
   void AddParties() {

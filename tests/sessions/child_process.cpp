@@ -31,9 +31,14 @@ Pipe MakePipe() {
 
 std::vector<char*> Pointers(std::vector<std::string>& texts) {
   std::vector<char*> pointers;
+  pointers.reserve(texts.size() + 1);
   for (std::string& text : texts) pointers.push_back(text.data());
   pointers.push_back(nullptr);
   return pointers;
+}
+
+std::string Entry(std::string entry, std::string_view value) {
+  return entry.append("=").append(value);
 }
 
 // Our environment, with the task's entries in place of ours.
@@ -46,7 +51,7 @@ std::vector<std::string> EnvironmentOf(const ProcessTask& task) {
                     [&](const auto& ours) { return text.starts_with(ours.first + "="); });
     if (!replaced) entries.emplace_back(text);
   }
-  for (const auto& [name, value] : task.environment) entries.push_back(name + "=" + value);
+  for (const auto& [name, value] : task.environment) entries.push_back(Entry(name, value));
   return entries;
 }
 

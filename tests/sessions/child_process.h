@@ -28,7 +28,9 @@ class ChildProcess {
   ChildProcess(const ProcessTask& task, Clock::time_point deadline);
   ~ChildProcess();
   ChildProcess(const ChildProcess&) = delete;
+  ChildProcess(ChildProcess&&) = delete;
   ChildProcess& operator=(const ChildProcess&) = delete;
+  ChildProcess& operator=(ChildProcess&&) = delete;
 
   // To its standard input.
   void Write(std::string_view text) const;

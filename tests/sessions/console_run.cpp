@@ -1,5 +1,6 @@
 #include "console_run.h"
 
+#include <algorithm>
 #include <optional>
 #include <stdexcept>
 #include <string_view>
@@ -89,13 +90,21 @@ std::string Joined(const std::vector<std::string>& words, std::string_view separ
   return text;
 }
 
+// The beginning of a long line, cut between two characters.
+std::string_view Beginning(std::string_view line) {
+  std::size_t end = std::min(line.size(), kLongestLineShown);
+  const auto continues = [&] { return (static_cast<unsigned char>(line[end]) & 0xC0U) == 0x80U; };
+  while (end < line.size() && end > 0 && continues()) --end;
+  return line.substr(0, end);
+}
+
 std::string Shown(std::string_view text) {
   std::string shown;
   while (!text.empty()) {
     const std::size_t end = text.find('\n');
     const std::string_view line = text.substr(0, end);
-    shown.append("  | ").append(line.substr(0, kLongestLineShown));
-    shown.append(line.size() > kLongestLineShown ? " …\n" : "\n");
+    const std::string_view beginning = Beginning(line);
+    shown.append("  | ").append(beginning).append(beginning.size() < line.size() ? " …\n" : "\n");
     text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
   }
   return shown;

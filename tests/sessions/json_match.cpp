@@ -1,6 +1,7 @@
 #include "json_match.h"
 
 #include <string_view>
+#include <utility>
 
 namespace ordex::sessions {
 namespace {
@@ -12,8 +13,12 @@ std::string Told(const std::string& where, const std::string& text) {
   return (where.empty() ? std::string("/") : where) + ": " + text;
 }
 
-std::string Place(const std::string& where, std::size_t index) {
-  return where + "/" + std::to_string(index);
+std::string Place(std::string where, const std::string& member) {
+  return where.append("/").append(member);
+}
+
+std::string Place(std::string where, std::size_t index) {
+  return Place(std::move(where), std::to_string(index));
 }
 
 std::optional<std::string> MissingPiece(const Json& pieces, const Json& actual,
@@ -41,7 +46,7 @@ std::optional<std::string> ObjectDifference(const Json& expected, const Json& ac
   if (!actual.is_object()) return Told(where, "object expected, found " + actual.dump());
   for (const auto& [name, value] : expected.items()) {
     if (!actual.contains(name)) return Told(where, "member \"" + name + "\" is missing");
-    if (auto difference = Difference(value, actual.at(name), where + "/" + name)) {
+    if (auto difference = Difference(value, actual.at(name), Place(where, name))) {
       return difference;
     }
   }
@@ -73,7 +78,7 @@ std::optional<std::string> MemberTypeDifference(const Json& types, const Json& a
   if (!actual.is_object()) return Told(where, "object expected, found " + actual.dump());
   if (types.contains(kAnyMember)) {
     for (const auto& [name, value] : actual.items()) {
-      if (auto difference = TypeDifference(types.at(kAnyMember), value, where + "/" + name)) {
+      if (auto difference = TypeDifference(types.at(kAnyMember), value, Place(where, name))) {
         return difference;
       }
     }
@@ -81,7 +86,7 @@ std::optional<std::string> MemberTypeDifference(const Json& types, const Json& a
   }
   for (const auto& [name, type] : types.items()) {
     if (!actual.contains(name)) return Told(where, "member \"" + name + "\" is missing");
-    if (auto difference = TypeDifference(type, actual.at(name), where + "/" + name)) {
+    if (auto difference = TypeDifference(type, actual.at(name), Place(where, name))) {
       return difference;
     }
   }

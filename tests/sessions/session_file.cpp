@@ -128,7 +128,7 @@ class Parser {
       if (line == "end") return;
       step.block.push_back(Expanded(line, at_));
     }
-    throw SyntaxError(step.line, "the block of \"" + step.keyword + "\" has no line \"end\"");
+    throw SyntaxError(step.line, "the block of \"" + step.keyword + R"(" has no line "end")");
   }
 
   std::vector<std::string> lines_;
@@ -160,7 +160,7 @@ void RequireOrder(const std::vector<Step>& steps) {
       throw SyntaxError(step.line, "\"" + step.keyword + "\" does not follow a query");
     }
     if (step.keyword == "query" && (last || !IsRows(steps[i + 1]))) {
-      throw SyntaxError(step.line, "neither \"row\" nor \"no-rows\" follows the query");
+      throw SyntaxError(step.line, R"(neither "row" nor "no-rows" follows the query)");
     }
     if (IsRun(step) && (last || steps[i + 1].keyword != "exit")) {
       throw SyntaxError(step.line, "\"exit N\" must follow the run");

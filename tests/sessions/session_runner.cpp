@@ -49,7 +49,7 @@ std::string ToWindows1252(std::string_view text) {
 class Runner {
  public:
   Runner(const SessionSetup& setup, const FailureReport& report)
-      : setup_(setup), report_(report), workplace_(setup.source) {
+      : report_(report), workplace_(setup.source) {
     task_.program = setup.program;
     task_.timeLimit = setup.timeLimit;
   }
@@ -169,7 +169,7 @@ class Runner {
     } else if (step.argument == "none") {
       workplace_.RemoveSettings();
     } else {
-      throw SyntaxError(step.line, "\"settings\" takes a block or \"none\"");
+      throw SyntaxError(step.line, R"("settings" takes a block or "none")");
     }
   }
 
@@ -346,7 +346,6 @@ class Runner {
     }
   }
 
-  const SessionSetup& setup_;
   const FailureReport& report_;
   Workplace workplace_;
   RunTask task_;

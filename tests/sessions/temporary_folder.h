@@ -31,7 +31,9 @@ class TemporaryFolder {
     fs::remove_all(path_, ignored);
   }
   TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder(TemporaryFolder&&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(TemporaryFolder&&) = delete;
 
   const std::filesystem::path& path() const { return path_; }
 

@@ -90,9 +90,9 @@ TEST(RegistraEventi, LeavesOtherNumbersAndOtherCasesAlone) {
   events.Store("7", "4");
   events.Store("8", "3");
   events.Refresh(3, kEvent);
-  EXPECT_EQ(events.Events(), (Texts{"7|4|prima|vecchia|9|05/01/2025",
-                                    "8|3|prima|vecchia|9|05/01/2025",
-                                    "7|3|14/01/2025|Deposito dell'atto|2|20/02/2026"}));
+  EXPECT_EQ(events.Events(),
+            (Texts{"7|4|prima|vecchia|9|05/01/2025", "8|3|prima|vecchia|9|05/01/2025",
+                   "7|3|14/01/2025|Deposito dell'atto|2|20/02/2026"}));
 }
 
 // The argument finds the event; what a new one is numbered is the row's own text.

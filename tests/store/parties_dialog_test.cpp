@@ -245,8 +245,7 @@ TEST(PartiesConfirmed, ReplaceTheTextsThatThePageGave) {
   parties.page.cDatiFasc.Add("C***** DI C***", "PARTECONVENUTA");
   parties.Confirm({"ROSSI MARIO", "NERI UGO", "BIANCHI ADA", ""});
   EXPECT_EQ(parties.page.cDatiFasc.Count(), 6U);
-  EXPECT_EQ(parties.page.cDatiFasc.Item("ParteAttrice"),
-            "ROSSI MARIO rappresentato/a da NERI UGO");
+  EXPECT_EQ(parties.page.cDatiFasc.Item("ParteAttrice"), "ROSSI MARIO rappresentato/a da NERI UGO");
   EXPECT_EQ(parties.page.cDatiFasc.Item("ParteConvenuta"), "BIANCHI ADA");
 }
 
@@ -254,9 +253,9 @@ TEST(PartiesConfirmed, AddKeysThatThePageDoesNotHold) {
   PartiesFixture parties;
   parties.page.cDatiFasc.Clear();
   parties.Confirm({"ROSSI MARIO", "", "", ""});
-  EXPECT_EQ(parties.Values(), (Texts{"Attore=ROSSI MARIO", "DifAttore=", "Convenuto=",
-                                     "DifConvenuto=", "ParteAttrice=ROSSI MARIO",
-                                     "ParteConvenuta="}));
+  EXPECT_EQ(parties.Values(),
+            (Texts{"Attore=ROSSI MARIO", "DifAttore=", "Convenuto=", "DifConvenuto=",
+                   "ParteAttrice=ROSSI MARIO", "ParteConvenuta="}));
 }
 
 TEST(PartiesConfirmed, WithCounselButNoPartyHaveAnEmptyText) {
@@ -294,9 +293,9 @@ TEST(PartiesConfirmed, WhoseDelimiterTextIsMissingAreKeptUnderTheirOwnKeysAlone)
   PartiesFixture parties;
   parties.mappings.cDelimitatori.Remove("DELGDP9");
   parties.Confirm({"ROSSI MARIO", "NERI UGO", "BIANCHI ADA", ""});
-  EXPECT_EQ(parties.Values(), (Texts{"Attore=ROSSI MARIO", "DifAttore=NERI UGO",
-                                     "Convenuto=BIANCHI ADA", "DifConvenuto=",
-                                     "ParteAttrice=ROSSI MARIO rappresentato/a da NERI UGO"}));
+  EXPECT_EQ(parties.Values(),
+            (Texts{"Attore=ROSSI MARIO", "DifAttore=NERI UGO", "Convenuto=BIANCHI ADA",
+                   "DifConvenuto=", "ParteAttrice=ROSSI MARIO rappresentato/a da NERI UGO"}));
 }
 
 TEST(PartiesConfirmed, CloseTheDialog) {

@@ -48,7 +48,7 @@ struct WindowFixture {
                     {boxes, dialogs, desktop, clipboard, clock, settings, office.diagnostics,
                      progress, [this](std::string_view connectionString) {
                        opened.emplace_back(connectionString);
-                       if (cannotOpen) throw *cannotOpen;
+                       if (cannotOpen) throw RunTimeError(*cannotOpen);
                        return OpenSqlite(office.file());
                      }}};
 };
