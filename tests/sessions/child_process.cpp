@@ -146,7 +146,8 @@ bool ChildProcess::ReadUntil(const std::function<bool(const std::string& output)
 }
 
 void ChildProcess::Kill() const {
-  kill(id_, SIGKILL);
+  // A negative number would mean more than this one process.
+  if (id_ > 0) kill(id_, SIGKILL);
 }
 
 void ChildProcess::Finish() {

@@ -91,7 +91,7 @@ TEST_F(SessionRunner, EventsAreLookedForInTheirOrder) {
 }
 
 TEST_F(SessionRunner, ARunThatOutlivesItsTimeLimitIsEndedAndTold) {
-  const auto failures = Run("sleep 30\n", "run\nend\nexit -9\n", 1s);
+  const auto failures = Run("exec sleep 30\n", "run\nend\nexit -9\n", 1s);
   EXPECT_TRUE(Begins(failures, 1, "the time limit of 1 s is over"));
 }
 
