@@ -6,7 +6,7 @@ export PATH="${PATH:-/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bi
 cd "$(dirname "$0")"
 . scripts/packages.sh
 
-need_packages $BUILD_PACKAGES $DEMO_PACKAGES
+need_packages $BUILD_PACKAGES $DESKTOP_PACKAGES $DEMO_PACKAGES
 cmake --preset release -DORDEX_TESTS=OFF >/dev/null
 cmake --build --preset release -j "$(nproc)" --target ordex-console
 

@@ -17,7 +17,7 @@ run_tests() {
 }
 
 quick() {
-  need_packages $BUILD_PACKAGES $TEST_PACKAGES
+  need_packages $BUILD_PACKAGES $DESKTOP_PACKAGES $TEST_PACKAGES
   echo "== release build"
   build_preset release
   echo "== tests"
@@ -25,7 +25,7 @@ quick() {
 }
 
 all() {
-  need_packages $BUILD_PACKAGES $TEST_PACKAGES $BENCH_PACKAGES $LINT_PACKAGES
+  need_packages $BUILD_PACKAGES $DESKTOP_PACKAGES $TEST_PACKAGES $BENCH_PACKAGES $LINT_PACKAGES
   echo "== format"
   scripts/lint.sh --format
   quick

@@ -5,7 +5,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
-need_packages $BUILD_PACKAGES $TEST_PACKAGES $LINT_PACKAGES
+need_packages $BUILD_PACKAGES $DESKTOP_PACKAGES $TEST_PACKAGES $LINT_PACKAGES
 
 mapfile -t files < <(git ls-files -co --exclude-standard '*.cpp' '*.h')
 clang-format --dry-run --Werror "${files[@]}"

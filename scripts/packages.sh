@@ -1,6 +1,7 @@
 # Debian packages by what they are needed for; to be sourced.
 
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config ccache libsqlite3-dev libutf8proc-dev libcli11-dev nlohmann-json3-dev"
+DESKTOP_PACKAGES="libwxgtk3.2-dev libgtk-3-dev libx11-dev"
 DEMO_PACKAGES="sqlite3"
 TEST_PACKAGES="libgtest-dev libgmock-dev"
 BENCH_PACKAGES="libbenchmark-dev"

@@ -23,6 +23,8 @@ std::string_view StandardWording(ErrorNumber number) {
       return "Utilizzo non valido di Null";
     case ErrorNumber::kDuplicateKey:
       return "Chiave già presente";
+    case ErrorNumber::kClipboardBusy:
+      return "Impossibile aprire gli appunti";
     case ErrorNumber::kDatabase:
       return "Errore del database";
   }

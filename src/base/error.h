@@ -22,6 +22,7 @@ enum class ErrorNumber : int {
   kFileAccess = 75,
   kInvalidNull = 94,
   kDuplicateKey = 457,
+  kClipboardBusy = 521,
   kDatabase = -2147467259,
 };
 

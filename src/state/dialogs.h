@@ -23,8 +23,8 @@ struct PersonCard {
   int lblInfo2Pointer = kPointerArrow;
   std::string lblDomanda;
   bool questionVisible = true;
-  Button cmdSi;
-  Button cmdNo;
+  Button cmdSi{"&Sì", kSymbolNone, true, true, ""};
+  Button cmdNo{"&No", kSymbolNone, true, true, ""};
   bool open = false;
 };
 

@@ -11,12 +11,13 @@
 #include "base/text.h"
 #include "base/text_file.h"
 #include "store/db/sqlite_connection.h"
+#include "ui/common/clocks.h"
+#include "ui/common/exit_code.h"
+#include "ui/common/program_folder.h"
 #include "ui/console/check.h"
-#include "ui/console/clocks.h"
 #include "ui/console/command_source.h"
 #include "ui/console/explain.h"
 #include "ui/console/json_events.h"
-#include "ui/console/program_folder.h"
 #include "ui/console/session.h"
 #include "ui/console/terminal.h"
 #include "ui/console/text_events.h"
@@ -46,19 +47,7 @@ struct WrongCall {
 };
 
 int ExitCode(const SessionEnd& end) {
-  if (end.scriptError) return kWrongCall;
-  switch (end.reason) {
-    case EndReason::kClosed:
-    case EndReason::kDone:
-      return 0;
-    case EndReason::kRefused:
-      return 3;
-    case EndReason::kError:
-      return 4;
-    case EndReason::kFailed:
-      return 5;
-  }
-  return 0;
+  return end.scriptError ? kWrongCall : ExitCodeOf(end.reason);
 }
 
 std::unique_ptr<Clock> MakeClock(const Options& options) {

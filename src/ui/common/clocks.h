@@ -1,9 +1,9 @@
-// The clocks of a session.
+// The clocks of a front end.
 #pragma once
 
 #include "state/ports.h"
 
-namespace ordex::console {
+namespace ordex {
 
 class FixedClock : public Clock {
  public:
@@ -19,4 +19,4 @@ class SystemClock : public Clock {
   DateTime Now() const override;
 };
 
-}  // namespace ordex::console
+}  // namespace ordex

@@ -1,9 +1,9 @@
-#include "ui/console/program_folder.h"
+#include "ui/common/program_folder.h"
 
 #include <cstdlib>
 #include <system_error>
 
-namespace ordex::console {
+namespace ordex {
 namespace fs = std::filesystem;
 
 fs::path ProgramFolder(const std::string& option, const char* executable) {
@@ -16,4 +16,4 @@ fs::path ProgramFolder(const std::string& option, const char* executable) {
   return self.parent_path();
 }
 
-}  // namespace ordex::console
+}  // namespace ordex

@@ -4,9 +4,9 @@
 #include <filesystem>
 #include <string>
 
-namespace ordex::console {
+namespace ordex {
 
 // `option`, where it is given, else the folder that ORDEX_DIR names, else that of the executable.
 std::filesystem::path ProgramFolder(const std::string& option, const char* executable);
 
-}  // namespace ordex::console
+}  // namespace ordex

@@ -1,0 +1,11 @@
+# Writes OUTPUT, a source file that holds the SVG files of ICONS by name.
+file(GLOB files ${ICONS}/*.svg)
+set(text "#include \"ui/desktop/icons.h\"\n\nnamespace ordex::desktop {\n\n")
+string(APPEND text "std::string_view EmbeddedIcon(std::string_view name) {\n")
+foreach(file IN LISTS files)
+  get_filename_component(name ${file} NAME_WE)
+  file(READ ${file} svg)
+  string(APPEND text "  if (name == \"${name}\") return R\"svg(${svg})svg\";\n")
+endforeach()
+string(APPEND text "  return {};\n}\n\n}  // namespace ordex::desktop\n")
+file(WRITE ${OUTPUT} "${text}")

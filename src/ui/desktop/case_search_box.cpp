@@ -1,0 +1,124 @@
+#include "ui/desktop/case_search_box.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+#include "ui/desktop/wx_text.h"
+
+namespace ordex::desktop {
+namespace {
+
+constexpr int kTypingPause = 250;  // milliseconds
+constexpr int kMostRowsShown = 10;
+constexpr int kDropDownWidth = 460;
+
+wxString HitText(const FoundCase& hit) {
+  const std::string number = hit.numeroRG.empty() ? std::string("senza numero") : hit.numeroRG;
+  return Wx(number + "   " + hit.title);
+}
+
+}  // namespace
+
+CaseSearchBox::CaseSearchBox(wxWindow* parent, const CaseHeader& header, const ActRunner& run)
+    : wxTextCtrl(parent, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, wxTE_PROCESS_ENTER,
+                 wxDefaultValidator, "ctlTestata1"),
+      header_(header),
+      run_(run),
+      pause_(this),
+      popup_(new wxPopupWindow(this, wxBORDER_SIMPLE)),
+      hits_(new wxListBox(popup_, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr,
+                          wxLB_SINGLE | wxBORDER_NONE)) {
+  SetHint("Cerca pratica: numero, cognome, oggetto");
+  SetToolTip("Numero di registro generale, cognome di una parte o oggetto della pratica");
+  hits_->SetName("Pratiche trovate");
+  Bind(wxEVT_TEXT, [this](wxCommandEvent&) { pause_.StartOnce(kTypingPause); });
+  Bind(wxEVT_TIMER, [this](wxTimerEvent&) { Search(); });
+  Bind(wxEVT_KEY_DOWN, &CaseSearchBox::OnKey, this);
+  Bind(wxEVT_KILL_FOCUS, [this](wxFocusEvent& event) {
+    HideDropDown();
+    event.Skip();
+  });
+  hits_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent& event) { ChooseHit(event.GetSelection()); });
+}
+
+void CaseSearchBox::Draw() {
+  if (drawn_ == header_.searchText) return;
+  drawn_ = header_.searchText;
+  if (Utf8(GetValue()) != drawn_) ChangeValue(Wx(drawn_));
+}
+
+void CaseSearchBox::HideDropDown() {
+  pause_.Stop();
+  popup_->Hide();
+}
+
+void CaseSearchBox::Search() {
+  asked_ = std::string(Trim(Utf8(GetValue())));
+  if (asked_.empty()) {
+    HideDropDown();
+    return;
+  }
+  const wxBusyCursor busy;
+  run_([this](MainWindow& window) { window.FindCases(asked_); });
+  ShowHits();
+}
+
+void CaseSearchBox::ShowHits() {
+  if (!HasFocus()) return;
+  wxArrayString texts;
+  for (const FoundCase& hit : header_.found) texts.Add(HitText(hit));
+  hits_->Enable(!texts.empty());
+  if (texts.empty()) texts.Add("Nessuna pratica trovata");
+  hits_->Set(texts);
+  const int rows = std::min(static_cast<int>(texts.size()), kMostRowsShown);
+  const int rowHeight = GetCharHeight() + FromDIP(8);
+  hits_->SetSize(FromDIP(kDropDownWidth), rows * rowHeight + FromDIP(4));
+  popup_->SetClientSize(hits_->GetSize());
+  popup_->Move(GetScreenPosition() +
+               wxPoint(GetSize().GetWidth() - popup_->GetSize().GetWidth(), GetSize().GetHeight()));
+  popup_->Show();
+}
+
+void CaseSearchBox::ChooseHit(int place) {
+  if (place < 0 || place >= static_cast<int>(header_.found.size())) return;
+  HideDropDown();
+  const std::int32_t idPra = header_.found[static_cast<std::size_t>(place)].idPra;
+  // The program's own text box is emptied with the header; so is this one.
+  drawn_.clear();
+  ChangeValue(wxString());
+  run_([idPra](MainWindow& window) { window.ChooseCase(idPra); });
+}
+
+void CaseSearchBox::OnKey(wxKeyEvent& event) {
+  const int count = static_cast<int>(header_.found.size());
+  const int chosen = hits_->GetSelection();
+  const bool shown = DropDownShown();
+  switch (event.GetKeyCode()) {
+    case WXK_DOWN:
+      if (!shown) {
+        Search();
+      } else if (count > 0) {
+        hits_->SetSelection(std::min(chosen + 1, count - 1));
+      }
+      return;
+    case WXK_UP:
+      if (shown && chosen > 0) hits_->SetSelection(chosen - 1);
+      return;
+    case WXK_RETURN:
+    case WXK_NUMPAD_ENTER:
+      if (shown && chosen != wxNOT_FOUND) {
+        ChooseHit(chosen);
+      } else {
+        Search();
+        if (DropDownShown() && count > 0) hits_->SetSelection(0);
+      }
+      return;
+    case WXK_ESCAPE:
+      HideDropDown();
+      return;
+    default:
+      event.Skip();
+  }
+}
+
+}  // namespace ordex::desktop

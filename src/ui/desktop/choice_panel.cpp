@@ -1,0 +1,88 @@
+#include "ui/desktop/choice_panel.h"
+
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+
+#include "ui/desktop/wx_text.h"
+
+namespace ordex::desktop {
+namespace {
+
+constexpr int kGap = 4;
+constexpr int kUserWidth = 220;
+
+void DrawBox(wxChoice& shown, const ComboBox& box) {
+  wxArrayString texts;
+  for (const ComboBox::Item& item : box.items) texts.Add(Wx(item.text));
+  if (shown.GetStrings() != texts) shown.Set(texts);
+  if (shown.GetSelection() != box.index) shown.SetSelection(box.index);
+  if (shown.GetToolTipText() != Wx(box.toolTip)) shown.SetToolTip(Wx(box.toolTip));
+}
+
+wxChoice* MakeBox(wxWindow* parent, const wxString& name) {
+  auto* box = new wxChoice(parent, wxID_ANY);
+  box->SetName(name);
+  return box;
+}
+
+}  // namespace
+
+ChoicePanel::ChoicePanel(wxWindow* parent, const CaseChoice& choice, const ActRunner& run)
+    : wxPanel(parent), choice_(choice) {
+  frameCliente_ = MakeFrameCliente(run);
+  frameUtenteCont_ = MakeFrameUtenteCont(run);
+  auto* row = new wxBoxSizer(wxHORIZONTAL);
+  row->Add(frameCliente_, 1, wxEXPAND | wxRIGHT, FromDIP(3 * kGap));
+  row->Add(frameUtenteCont_, 0, wxEXPAND);
+  SetSizer(row);
+}
+
+wxWindow* ChoicePanel::MakeFrameCliente(const ActRunner& run) {
+  const std::array<wxString, 2> captions = {" Cliente : ", " Controparte: "};
+  const std::array<wxString, 2> names = {"Cliente", "Controparte"};
+  auto* frame = new wxPanel(this);
+  auto* grid = new wxFlexGridSizer(2, FromDIP(kGap), FromDIP(kGap));
+  grid->AddGrowableCol(1);
+  for (std::size_t i = 0; i < cmbParti_.size(); ++i) {
+    auto* label = new wxStaticText(frame, wxID_ANY, captions[i]);
+    cmbParti_[i] = MakeBox(frame, names[i]);
+    cmbParti_[i]->Bind(wxEVT_CHOICE, [run, i](wxCommandEvent& event) {
+      const int place = event.GetSelection();
+      run([i, place](MainWindow& window) { window.SelectParty(i, place); });
+    });
+    grid->Add(label, 0, wxALIGN_CENTRE_VERTICAL);
+    grid->Add(cmbParti_[i], 1, wxEXPAND);
+  }
+  frame->SetSizer(grid);
+  return frame;
+}
+
+wxWindow* ChoicePanel::MakeFrameUtenteCont(const ActRunner& run) {
+  auto* frame = new wxPanel(this);
+  auto* label = new wxStaticText(frame, wxID_ANY, Wx(choice_.frameUtenteCont.caption));
+  cmbUtenteCont_ = MakeBox(frame, label->GetLabelText());
+  cmbUtenteCont_->SetMinSize(wxSize(FromDIP(kUserWidth), -1));
+  cmbUtenteCont_->Bind(wxEVT_CHOICE, [run](wxCommandEvent& event) {
+    const int place = event.GetSelection();
+    run([place](MainWindow& window) { window.SelectUtenteCont(place); });
+  });
+  auto* rows = new wxBoxSizer(wxVERTICAL);
+  rows->Add(label, 1, wxALIGN_LEFT | wxTOP, FromDIP(kGap));
+  rows->Add(cmbUtenteCont_, 0, wxEXPAND);
+  frame->SetSizer(rows);
+  return frame;
+}
+
+void ChoicePanel::Draw() {
+  for (std::size_t i = 0; i < cmbParti_.size(); ++i) DrawBox(*cmbParti_[i], choice_.cmbParti[i]);
+  DrawBox(*cmbUtenteCont_, choice_.cmbUtenteCont);
+  const bool cliente = choice_.frameCliente.visible;
+  const bool utente = choice_.frameUtenteCont.visible;
+  // The panel first: the toolkit sizes nothing inside a hidden one.
+  if (IsShown() != (cliente || utente)) Show(cliente || utente);
+  if (frameCliente_->IsShown() != cliente) frameCliente_->Show(cliente);
+  if (frameUtenteCont_->IsShown() != utente) frameUtenteCont_->Show(utente);
+  Layout();
+}
+
+}  // namespace ordex::desktop

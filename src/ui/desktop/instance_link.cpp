@@ -1,0 +1,50 @@
+#include "ui/desktop/instance_link.h"
+
+#include <wx/log.h>
+
+#include <memory>
+#include <utility>
+
+#include "ui/desktop/wx_text.h"
+
+namespace ordex::desktop {
+namespace {
+
+constexpr const char* kTopic = "MAIN";
+constexpr const char* kItem = "lblLinkDDE";
+
+class LinkConnection : public wxConnection {
+ public:
+  explicit LinkConnection(std::function<void()> onChange) : onChange_(std::move(onChange)) {}
+
+  // The text says nothing: that the label changes is the signal.
+  bool OnPoke(const wxString& /*topic*/, const wxString& item, const void* /*data*/,
+              size_t /*size*/, wxIPCFormat /*format*/) override {
+    if (item != kItem) return false;
+    onChange_();
+    return true;
+  }
+
+ private:
+  std::function<void()> onChange_;
+};
+
+}  // namespace
+
+wxConnectionBase* LinkServer::OnAcceptConnection(const wxString& topic) {
+  if (topic != kTopic) return nullptr;
+  return new LinkConnection(onChange_);
+}
+
+bool PokeFirstInstance(const std::string& service, const std::string& text) {
+  const wxLogNull quiet;
+  wxClient client;
+  const std::unique_ptr<wxConnectionBase> connection(
+      client.MakeConnection("localhost", Wx(service), kTopic));
+  if (connection == nullptr) return false;
+  const bool told = connection->Poke(kItem, Wx(text));
+  connection->Disconnect();
+  return told;
+}
+
+}  // namespace ordex::desktop

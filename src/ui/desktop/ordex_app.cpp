@@ -1,0 +1,160 @@
+#include "ui/desktop/ordex_app.h"
+
+#include <wx/clipbrd.h>
+#include <wx/richmsgdlg.h>
+#include <wx/utils.h>
+
+#include <exception>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "app/ini_settings.h"
+#include "base/error.h"
+#include "base/number.h"
+#include "store/db/open_connection.h"
+#include "ui/common/clocks.h"
+#include "ui/common/exit_code.h"
+#include "ui/common/program_folder.h"
+#include "ui/desktop/platform.h"
+#include "ui/desktop/wx_text.h"
+
+namespace ordex::desktop {
+namespace {
+
+constexpr int kWrongCall = 2;
+constexpr int kUnexpectedError = 4;
+// The first instance may be just ending, or just starting.
+constexpr int kTries = 3;
+constexpr int kPause = 100;  // milliseconds
+
+void Tell(const std::string& text, long icon) {
+  wxRichMessageDialog box(nullptr, Wx(text), "Ordex", wxOK | icon);
+  box.SetOKLabel("OK");
+  box.ShowModal();
+}
+
+std::string TimeText(const DateTime& time) {
+  return wxString::Format("%02d:%02d:%02d", time.hour, time.minute, time.second).utf8_string();
+}
+
+}  // namespace
+
+bool OrdexApp::Initialize(int& argumentCount, wxChar** arguments) {
+  PrepareDesktop();
+  return wxApp::Initialize(argumentCount, arguments);
+}
+
+bool OrdexApp::OnInit() {
+  SetAppName("Ordex");
+  SetAppDisplayName("Ordex");
+  UseCompactControls();
+  try {
+    if (!TakeOptions()) return true;
+    if (ClaimOrHandOver()) OpenWindow();
+  } catch (const RunTimeError& error) {
+    Tell(ReportText(error), wxICON_ERROR);
+    Finish(kUnexpectedError);
+  }
+  return true;
+}
+
+bool OrdexApp::TakeOptions() {
+  std::vector<std::string> arguments;
+  for (int i = 1; i < argc; ++i) arguments.push_back(Utf8(argv[i]));
+  try {
+    options_ = ReadOptions(arguments);
+  } catch (const std::invalid_argument& wrong) {
+    Tell(wrong.what(), wxICON_EXCLAMATION);
+    Finish(kWrongCall);
+    return false;
+  }
+  if (options_.help) {
+    Tell(OptionsHelp(), wxICON_INFORMATION);
+    Finish(0);
+    return false;
+  }
+  settings_ = std::make_unique<IniSettings>(
+      options_.settings.empty() ? UserSettingsFile() : std::filesystem::path(options_.settings));
+  if (options_.now) {
+    clock_ = std::make_unique<FixedClock>(*options_.now);
+  } else {
+    clock_ = std::make_unique<SystemClock>();
+  }
+  return true;
+}
+
+bool OrdexApp::ClaimOrHandOver() {
+  for (int tried = 0; tried < kTries; ++tried) {
+    if (tried > 0) wxMilliSleep(kPause);
+    if (lock_.Acquire()) return true;
+    if (PokeFirstInstance(LinkService(), TimeText(clock_->Now()))) {
+      ShowOrdex();
+      Finish(0);
+      return false;
+    }
+  }
+  Tell("Ordex è già in esecuzione ma non risponde. Chiudere la finestra di Ordex e riprovare.",
+       wxICON_EXCLAMATION);
+  Finish(kUnexpectedError);
+  return false;
+}
+
+void OrdexApp::ShowOrdex() const {
+  RaiseWindow(ToInt32(settings_->Get("Shared", "OrdexHandle")));
+}
+
+void OrdexApp::OpenWindow() {
+  const std::filesystem::path folder = ProgramFolder(options_.dir, Utf8(argv[0]).c_str());
+  window_ = std::make_unique<MainWindow>(
+      folder, World{ports_, ports_, ports_, clipboard_, *clock_, *settings_, ports_, ports_,
+                    [folder](std::string_view connectionString) {
+                      return OpenConnection(connectionString, folder);
+                    }});
+  frame_ = new MainFrame(*window_, [this] { Finish(ExitCodeOf(*window_->ended())); });
+  ports_.Attach(*window_, *frame_);
+  // A poke may come while the window still loads; it waits for the end of that.
+  server_ = std::make_unique<LinkServer>([this] { frame_->CallAfter(&MainFrame::Poke); });
+  if (!server_->Create(Wx(LinkService()))) {
+    throw MakeError(ErrorNumber::kFileAccess, "impossibile aprire il collegamento tra due avvii");
+  }
+  frame_->Run([this](MainWindow& window) { window.Start(std::to_string(HandleOf(*frame_))); });
+  if (!over_) frame_->Open();
+}
+
+void OrdexApp::Finish(int exitCode) {
+  exitCode_ = exitCode;
+  over_ = true;
+  server_.reset();
+  if (frame_ != nullptr) frame_->Destroy();
+  if (IsMainLoopRunning()) ExitMainLoop();
+}
+
+int OrdexApp::OnRun() {
+  if (!over_) wxApp::OnRun();
+  return exitCode_;
+}
+
+// What the user copied from the lists outlives the program.
+int OrdexApp::OnExit() {
+  if (wxTheClipboard->Open()) {
+    wxTheClipboard->Flush();
+    wxTheClipboard->Close();
+  }
+  return wxApp::OnExit();
+}
+
+bool OrdexApp::OnExceptionInMainLoop() {
+  try {
+    throw;
+  } catch (const std::exception& error) {
+    Tell("Errore imprevisto: " + std::string(error.what()), wxICON_ERROR);
+  }
+  Finish(kUnexpectedError);
+  return false;
+}
+
+}  // namespace ordex::desktop
+
+wxIMPLEMENT_APP(ordex::desktop::OrdexApp);

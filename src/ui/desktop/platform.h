@@ -1,0 +1,30 @@
+// What differs from desktop to desktop; one source file for each.
+#pragma once
+
+#include <wx/string.h>
+#include <wx/window.h>
+
+#include <cstdint>
+
+namespace ordex::desktop {
+
+// Before the toolkit starts.
+void PrepareDesktop();
+// Once the toolkit has started: controls as small as this program's compact window wants them.
+void UseCompactControls();
+
+// Draws a button flat where the toolkit does not by itself.
+void MakeFlat(wxWindow& button);
+
+// After controls inside `window` were shown, hidden or changed: has the toolkit give each its size.
+void SettleLayout(wxWindow& window);
+
+// What the desktop calls the window, as other programs know it; 0 where it has no such name.
+std::int64_t HandleOf(const wxWindow& window);
+// Raises a window of any program. A handle that names none does nothing.
+void RaiseWindow(std::int64_t handle);
+
+// Asks the desktop to open a link; false where it could not.
+bool OpenLink(const wxString& link);
+
+}  // namespace ordex::desktop
