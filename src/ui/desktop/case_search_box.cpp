@@ -10,12 +10,7 @@ namespace {
 
 constexpr int kTypingPause = 250;  // milliseconds
 constexpr int kMostRowsShown = 10;
-constexpr int kDropDownWidth = 460;
-
-wxString HitText(const FoundCase& hit) {
-  const std::string number = hit.numeroRG.empty() ? std::string("senza numero") : hit.numeroRG;
-  return Wx(number + "   " + hit.title);
-}
+constexpr int kDropDownWidth = 560;
 
 }  // namespace
 
@@ -29,7 +24,6 @@ CaseSearchBox::CaseSearchBox(wxWindow* parent, const CaseHeader& header, const A
       hits_(new wxListBox(popup_, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr,
                           wxLB_SINGLE | wxBORDER_NONE)) {
   SetHint("Cerca pratica: numero, cognome, oggetto");
-  SetToolTip("Numero di registro generale, cognome di una parte o oggetto della pratica");
   hits_->SetName("Pratiche trovate");
   Bind(wxEVT_TEXT, [this](wxCommandEvent&) { pause_.StartOnce(kTypingPause); });
   Bind(wxEVT_TIMER, [this](wxTimerEvent&) { Search(); });
@@ -38,7 +32,11 @@ CaseSearchBox::CaseSearchBox(wxWindow* parent, const CaseHeader& header, const A
     HideDropDown();
     event.Skip();
   });
-  hits_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent& event) { ChooseHit(event.GetSelection()); });
+  // The mouse alone chooses at once; the keyboard moves first, and chooses with Return.
+  hits_->Bind(wxEVT_LEFT_UP, [this](wxMouseEvent& event) {
+    const int place = hits_->HitTest(event.GetPosition());
+    CallAfter([this, place] { ChooseHit(place); });
+  });
 }
 
 void CaseSearchBox::Draw() {
@@ -66,7 +64,7 @@ void CaseSearchBox::Search() {
 void CaseSearchBox::ShowHits() {
   if (!HasFocus()) return;
   wxArrayString texts;
-  for (const FoundCase& hit : header_.found) texts.Add(HitText(hit));
+  for (const FoundCase& hit : header_.found) texts.Add(Wx(hit.title));
   hits_->Enable(!texts.empty());
   if (texts.empty()) texts.Add("Nessuna pratica trovata");
   hits_->Set(texts);

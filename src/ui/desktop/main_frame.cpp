@@ -45,6 +45,7 @@ MainFrame::MainFrame(MainWindow& window, std::function<void()> onEnd)
 
   Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent&) { Run([](MainWindow& main) { main.Close(); }); });
   Bind(wxEVT_CHAR_HOOK, &MainFrame::OnKey, this);
+  Bind(wxEVT_ACTIVATE, &MainFrame::OnActivate, this);
   body->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
     event.Skip();
     // Not from within: a control shown or hidden while sizes are handed out gets none.
@@ -129,7 +130,9 @@ void MainFrame::ShowDetailsWhereTheyFit() {
   wxWindow* body = details_->GetParent();
   wxSizer* rows = body->GetSizer();
   rows->SetItemMinSize(details_, 0, 0);
-  const int above = rows->CalcMin().GetHeight();
+  // Room is kept for the choice of the parties, so that the list stays when it comes and goes.
+  const int kept = choice_->IsShown() ? 0 : choice_->GetBestSize().GetHeight();
+  const int above = rows->CalcMin().GetHeight() + kept;
   const bool fit = body->GetClientSize().GetHeight() - above >= FromDIP(kLeastListHeight);
   if (details_->IsShown() != fit) details_->Show(fit);
   rows->GetItem(header_)->SetProportion(fit ? 0 : 1);
@@ -145,6 +148,15 @@ void MainFrame::Open() {
   } else {
     header_->SearchBox().SetFocus();
   }
+}
+
+// The height counts the title bar, which some desktops tell only once the window is there.
+void MainFrame::OnActivate(wxActivateEvent& event) {
+  event.Skip();
+  if (sizeSettled_ || !IsShown()) return;
+  sizeSettled_ = true;
+  drawn_.height = 0;
+  CallAfter(&MainFrame::DrawSize);
 }
 
 void MainFrame::FocusOn(const wxString& name) {

@@ -37,11 +37,13 @@ class MainFrame : public wxFrame {
   void Arrange();
   void DrawSize();
   void ShowDetailsWhereTheyFit();
+  void OnActivate(wxActivateEvent& event);
   void OnKey(wxKeyEvent& event);
 
   MainWindow& window_;
   std::function<void()> onEnd_;
   bool running_ = false;
+  bool sizeSettled_ = false;
   FrmMain drawn_;  // the window's sizes as drawn last
   CaseHeaderPanel* header_;
   wxButton* cmdPulisci_;
