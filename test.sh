@@ -7,13 +7,11 @@ export PATH="${PATH:-/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bi
 cd "$(dirname "$0")"
 . scripts/packages.sh
 
-# run_tests PRESET [further options]. The sessions that wait for a locked database are the only ones
-# that a busy machine can upset; a test that fails is tried once more.
+# run_tests PRESET [further options]
 run_tests() {
   local preset=$1
   shift
-  ctest --test-dir "build/$preset" --output-on-failure -j "$(nproc)" --timeout 300 --no-tests=error \
-    --repeat until-pass:2 "$@"
+  ctest --test-dir "build/$preset" --output-on-failure -j "$(nproc)" --timeout 300 --no-tests=error "$@"
 }
 
 quick() {

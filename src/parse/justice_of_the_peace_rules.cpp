@@ -88,7 +88,9 @@ class JusticeOfThePeaceRules : public PageRules {
     }
   }
 
-  // Each piece is a label and its value. Such lines count before the data section too.
+  // Each piece is a label and its value. Such lines count before the data section too. The line is
+  // trimmed already: a separator at its end that ends in a blank is none any more, and its rest
+  // stays with the last value.
   void TakePairs(const PageLine& szRiga, const Delimiter& between) {
     reader_.Taken(szRiga, "più campi");
     for (const std::string_view piece : Split(szRiga.text, between.text())) {
@@ -126,7 +128,13 @@ class JusticeOfThePeaceRules : public PageRules {
                     "DifConvenuto")) {
         continue;
       }
-      ApplyOrdinaryRules({Trim(line->text), line->number});
+      const PageLine other{Trim(line->text), line->number};
+      if (delimiters_.history.In(other.text)) {
+        // The empty line that ends a history ends the block around it too.
+        TakeHistory(other);
+        return;
+      }
+      ApplyOrdinaryRules(other);
     }
   }
 

@@ -36,6 +36,9 @@ struct HistoryPaging {
   std::int16_t iTotEventiStorico = 0;
   KeyedTable cPagineStorico;  // the pages taken in this run, by number
   bool bPaginaNuova = true;
+  // The last recognition entered its page in `cPagineStorico`. A page that does not tell its place
+  // leaves `bPaginaNuova` as it was, but enters nothing.
+  bool bPaginaAggiunta = false;
   bool bStoricoVuoto = true;
 };
 

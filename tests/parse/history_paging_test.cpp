@@ -211,6 +211,27 @@ TEST_F(HistoryPlace, NeedsTheDelimitersOfTheTotal) {
   }
 }
 
+// Without its mark there is no page line to be found.
+TEST_F(HistoryPlace, WithoutTheDelimiterOfThePageLineIsPageOneOfOne) {
+  Delimiters(DelimitersWithout(kHistoryDelimiters, "DELSF6"));
+  EXPECT_EQ(Copy("Lista(42 voci) Foglio 2 su 5\r\n"), (Place{1, 1, 42}));
+  EXPECT_TRUE(paging_.bPaginaNuova);
+  EXPECT_EQ(ValuesOf(paging_.cPagineStorico), (NamedValues{{"1", "1"}}));
+}
+
+// The page line is there, but neither of its numbers can be cut out of it.
+TEST_F(HistoryPlace, WithoutTheDelimiterBetweenPageAndPagesKeepsBoth) {
+  Delimiters(DelimitersWithout(kHistoryDelimiters, "DELSF7"));
+  EXPECT_EQ(Copy("Lista(42 voci) Foglio 2 su 5\r\n"), (Place{7, 8, 42}));
+  EXPECT_TRUE(paging_.bPaginaNuova);
+  EXPECT_EQ(ValuesOf(paging_.cPagineStorico), (NamedValues{{"7", "7"}}));
+}
+
+TEST_F(HistoryPlace, WithoutTheDelimiterBetweenPageAndPagesIsStillPageOneOfOneWithoutAPageLine) {
+  Delimiters(DelimitersWithout(kHistoryDelimiters, "DELSF7"));
+  EXPECT_EQ(Copy("Lista(42 voci)\r\n"), (Place{1, 1, 42}));
+}
+
 // --- forgetting a page --------------------------------------------------------------------------
 
 TEST_F(HistoryPlace, OfAForgottenPageIsNewAgain) {
@@ -225,6 +246,20 @@ TEST_F(HistoryPlace, OfAForgottenPageIsNewAgain) {
 TEST_F(HistoryPlace, OfAPageTakenEarlierIsNotForgotten) {
   Copy("Lista(42 voci) Foglio 2 su 5\r\n");
   Copy("Lista(42 voci) Foglio 2 su 5\r\n");
+  ForgetHistoryPage(paging_);
+  EXPECT_EQ(ValuesOf(paging_.cPagineStorico), (NamedValues{{"2", "2"}}));
+}
+
+TEST_F(HistoryPlace, OfAPageThatTellsNoPlaceForgetsNone) {
+  Copy("Lista(42 voci) Foglio 2 su 5\r\n");
+  Copy("senza posto");
+  ForgetHistoryPage(paging_);
+  EXPECT_EQ(ValuesOf(paging_.cPagineStorico), (NamedValues{{"2", "2"}}));
+}
+
+TEST_F(HistoryPlace, OfAPageWhoseTotalIsAtFaultForgetsNone) {
+  Copy("Lista(42 voci) Foglio 2 su 5\r\n");
+  EXPECT_EQ(RaisedBy([&] { Copy("Lista(x voci) Foglio 3 su 5\r\n"); }).number, 13);
   ForgetHistoryPage(paging_);
   EXPECT_EQ(ValuesOf(paging_.cPagineStorico), (NamedValues{{"2", "2"}}));
 }

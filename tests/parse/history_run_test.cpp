@@ -105,6 +105,24 @@ TEST_F(HistoryRun, AStoppedImportForgetsNoOtherPage) {
   EXPECT_EQ(ValuesOf(bench_.paging.cPagineStorico), (NamedValues{{"2", "2"}}));
 }
 
+// Its place is that of the page before, which was taken well.
+TEST_F(HistoryRun, AStoppedPageThatTellsNoPlaceDoesNotForgetThePageBefore) {
+  EXPECT_EQ(Copy(kPlace2Of5, {"1 a b"}), Stop{});
+  EXPECT_EQ(Copy("senza posto", {"2 c d", "guasta"}).number, 9);
+  EXPECT_EQ(ValuesOf(bench_.paging.cPagineStorico), (NamedValues{{"2", "2"}}));
+  EXPECT_EQ(Copy(kPlace2Of5, {"1 a b"}), Stop{});
+  EXPECT_EQ(bench_.sink.rows,
+            (Rows{HistoryRow("1", "a", "b", "2/5"), HistoryRow("2", "c", "d", "2/5")}));
+}
+
+TEST_F(HistoryRun, AStoppedPageThatTellsNoPlaceCanBeCopiedAgain) {
+  EXPECT_EQ(Copy(kPlace2Of5, {"1 a b"}), Stop{});
+  EXPECT_EQ(Copy("senza posto", {"guasta"}).number, 9);
+  EXPECT_EQ(Copy("senza posto", {"2 c d"}), Stop{});
+  EXPECT_EQ(bench_.sink.rows,
+            (Rows{HistoryRow("1", "a", "b", "2/5"), HistoryRow("2", "c", "d", "2/5")}));
+}
+
 TEST_F(HistoryRun, AStoppedImportOfAnotherKindForgetsNoPage) {
   EXPECT_EQ(Copy(kPlace2Of5, {"1 a b"}), Stop{});
   EXPECT_EQ(bench_.RunFile("assente", kPageProfile).number, 53);

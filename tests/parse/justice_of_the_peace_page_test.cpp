@@ -128,6 +128,26 @@ TEST(JusticeDataLine, IsCutAtItsOwnSeparatorOnly) {
                                    FieldRow("Note", "Avvisi", "c ; Materia: d")}));
 }
 
+// A line is trimmed before it is cut: a separator at its very end has lost its last blank, is none
+// any more, and stays with the value.
+TEST(JusticeDataLine, ThatEndsInItsSeparatorKeepsWhatTrimmingLeftOfItInTheLastValue) {
+  JusticeBench bench;
+  EXPECT_EQ(bench.Read({"Ruolo ; Note: a ; Materia: b ; ", "Giudice | Sezione: c | "}), Stop{});
+  EXPECT_EQ(bench.sink.rows,
+            (Rows{FieldRow("Note", "Note", "a"), FieldRow("Materia", "Materia", "b ;"),
+                  FieldRow("Sezione", "Sezione", "c |")}));
+}
+
+TEST(JusticeDataLine, ThatEndsInASeparatorWithoutBlanksLosesItWhole) {
+  JusticeBench bench;
+  std::string delimiters(kJusticeDelimiters);
+  delimiters.replace(delimiters.find(" ; =DELGDP12"), 3, ";");
+  bench.Delimiters(delimiters);
+  EXPECT_EQ(bench.Read({"Ruolo ; Note: a ; Materia: b ; "}), Stop{});
+  EXPECT_EQ(bench.sink.rows,
+            (Rows{FieldRow("Note", "Note", "a"), FieldRow("Materia", "Materia", "b")}));
+}
+
 TEST(JusticeDataLine, OfTheFirstFormGoesBeforeThoseOfPairs) {
   JusticeBench bench;
   EXPECT_EQ(bench.Read({"Udienze | Note: a ; Materia: b ; Ruolo ; x"}), Stop{});

@@ -173,6 +173,25 @@ TEST(JusticePartiesBlock, IsEndedQuietlyByTheClosingQuoteOfThePageFile) {
   EXPECT_EQ(bench.sink.parties, (Parties{{"A", ""}}));
 }
 
+// The one empty line ends the history and the block that it stands in.
+TEST(JusticePartiesBlock, EndsWithAHistoryThatBeginsInIt) {
+  JusticeBench bench;
+  EXPECT_EQ(ReadParties(bench, {"Ricorre: A", "MOVIMENTI", "10/01/2026 deposito", "", "Resiste: B",
+                                "Oggetto: x"}),
+            Stop{});
+  EXPECT_EQ(bench.sink.parties, (Parties{{"A", ""}}));
+  EXPECT_EQ(bench.sink.rows,
+            (Rows{FieldRow("ParteAttrice", "Ricorre:", "A"), kHistoryHeadingRow,
+                  EventRow("10/01/2026", "deposito"), FieldRow("Oggetto", "Oggetto", "x")}));
+}
+
+TEST(JusticePartiesBlock, EndsWithAnEmptyHistoryThatBeginsInIt) {
+  JusticeBench bench;
+  EXPECT_EQ(ReadParties(bench, {"MOVIMENTI", "", "", "Resiste: B", "Oggetto: x"}), Stop{});
+  EXPECT_EQ(bench.sink.parties, Parties{});
+  EXPECT_EQ(bench.sink.rows, (Rows{kHistoryHeadingRow, FieldRow("Oggetto", "Oggetto", "x")}));
+}
+
 TEST(JusticePartiesBlock, NamesTheLineThatFails) {
   JusticeBench bench;
   EXPECT_EQ(ReadParties(bench, {"Ricorre: A", "  Oggetto", "Resiste: B"}),

@@ -4,6 +4,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string_view>
+#include <thread>
 
 #include "child_process.h"
 #include "database.h"
@@ -16,6 +17,9 @@ namespace {
 
 constexpr std::size_t kLongestLineShown = 6000;
 constexpr std::string_view kKill = "!kill";
+constexpr std::string_view kUnlock = "!unlock ";
+// From the text that the console prints last to the place where it waits for the lock.
+constexpr std::chrono::milliseconds kOnItsWay{300};
 
 bool HoldsOwnCommands(const RunTask& task) {
   for (const std::string& command : task.commands) {
@@ -67,14 +71,28 @@ void DoBetween(const std::string& command, const Workplace& workplace, ChildProc
   }
 }
 
+// The console waits for the lock, and so can print no state. Where the machine is so busy that it
+// is not there yet, the lock is gone when it comes, and what follows is the same.
+void Unlock(std::string_view awaited, ChildProcess& console, std::optional<WriteLock>& lock) {
+  console.ReadUntil(
+      [&](const std::string& output) { return output.find(awaited) != std::string::npos; });
+  std::this_thread::sleep_for(kOnItsWay);
+  lock.reset();
+}
+
 // Feeds the commands one after the other. Before each of ours the console is asked for its state:
 // once that is printed, it has carried out all that stands before.
-void Feed(const RunTask& task, const Workplace& workplace, ChildProcess& console) {
+void Feed(const RunTask& task, const Workplace& workplace, ChildProcess& console,
+          std::optional<WriteLock>& lock) {
   std::size_t states = 1;  // the first is printed when the window is ready
   for (const std::string& command : task.commands) {
     if (!command.starts_with('!')) {
       console.Write(command + "\n");
       if (command == "state") ++states;
+      continue;
+    }
+    if (command.starts_with(kUnlock)) {
+      Unlock(std::string_view(command).substr(kUnlock.size()), console, lock);
       continue;
     }
     console.Write("state\n");
@@ -170,9 +188,9 @@ RunOutcome RunConsole(const RunTask& task, const Workplace& workplace) {
   process.asNobody = task.asNobody;
 
   std::optional<WriteLock> lock;
-  if (task.lock.count() > 0) lock.emplace(workplace.database(), task.lock);
+  if (task.locked) lock.emplace(workplace.database());
   ChildProcess console(process, ChildProcess::Clock::now() + task.timeLimit);
-  if (HoldsOwnCommands(task)) Feed(task, workplace, console);
+  if (HoldsOwnCommands(task)) Feed(task, workplace, console, lock);
   console.Finish();
   lock.reset();
   workplace.LookInto();
@@ -180,13 +198,21 @@ RunOutcome RunConsole(const RunTask& task, const Workplace& workplace) {
   RunOutcome outcome;
   outcome.exitCode = console.exitCode();
   outcome.timedOut = console.timedOut();
+  outcome.output = console.output();
+  outcome.errors = console.errors();
   outcome.transcript = Joined(process.command, " ") + "\n--- commands\n" +
                        Shown(Joined(task.commands, "\n")) + "--- output\n" +
                        Shown(console.output()) + "--- error output\n" + Shown(console.errors()) +
                        "--- exit code " + std::to_string(console.exitCode()) + "\n";
   if (outcome.timedOut) {
     outcome.fault = "the time limit of " + std::to_string(task.timeLimit.count()) + " s is over";
-  } else if (task.arguments.empty()) {
+  } else if (!task.arguments.empty()) {
+    // A verb prints events of its own, and no "end" behind what it reports.
+    const auto& words = task.arguments;
+    if (std::find(words.begin(), words.end(), "--json") != words.end()) {
+      ReadEvents(console.output(), outcome);
+    }
+  } else {
     const bool killed = !task.commands.empty() && task.commands.back() == kKill;
     ReadEvents(console.output(), outcome);
     if (!killed) CheckEnd(outcome);

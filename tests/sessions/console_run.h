@@ -10,18 +10,20 @@
 
 namespace ordex::sessions {
 
-inline constexpr std::chrono::seconds kTimeLimit{60};
+// Only there to end a run that hangs.
+inline constexpr std::chrono::seconds kTimeLimit{150};
 
 struct RunTask {
   std::vector<std::string> program;    // the console, with what stands in front of it
   std::vector<std::string> arguments;  // in place of the usual ones, where there are any
   std::vector<std::string> options;    // besides the usual arguments
   std::string now;
-  // Two lines are none of the console's: at "!sql TEXT" another program changes the database, at
-  // "!kill" the console is ended by force.
+  // Three lines are none of the console's: at "!sql TEXT" another program changes the database, at
+  // "!kill" the console is ended by force, and at "!unlock TEXT", once the console has printed
+  // TEXT, the lock goes.
   std::vector<std::string> commands;
   bool asNobody = false;
-  std::chrono::milliseconds lock{0};  // so long another program holds the database
+  bool locked = false;  // another program holds the database
   std::chrono::seconds timeLimit = kTimeLimit;
 };
 
@@ -29,6 +31,8 @@ struct RunOutcome {
   int exitCode = 0;
   bool timedOut = false;
   std::vector<Json> events;
+  std::string output;
+  std::string errors;
   std::string fault;       // what is wrong with the output itself; empty where nothing is
   std::string transcript;  // everything, for whoever reads of a failure
 };

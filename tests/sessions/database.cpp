@@ -1,9 +1,6 @@
 #include "database.h"
 
-#include <condition_variable>
-#include <mutex>
 #include <stdexcept>
-#include <stop_token>
 #include <string_view>
 
 #include "text_files.h"
@@ -121,15 +118,9 @@ Content ContentOf(const fs::path& file) {
   return content;
 }
 
-WriteLock::WriteLock(const fs::path& file, std::chrono::milliseconds duration) {
-  database_.reset(Open(file, SQLITE_OPEN_READWRITE).release());
+WriteLock::WriteLock(const fs::path& file)
+    : database_(Open(file, SQLITE_OPEN_READWRITE).release()) {
   Execute(database_.get(), "BEGIN IMMEDIATE");
-  holder_ = std::jthread([database = database_.get(), duration](const std::stop_token& stop) {
-    std::mutex mutex;
-    std::unique_lock lock(mutex);
-    std::condition_variable_any().wait_for(lock, stop, duration, [] { return false; });
-    sqlite3_exec(database, "ROLLBACK", nullptr, nullptr, nullptr);
-  });
 }
 
 }  // namespace ordex::sessions

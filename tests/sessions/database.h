@@ -4,12 +4,10 @@
 
 #include <sqlite3.h>
 
-#include <chrono>
 #include <filesystem>
 #include <map>
 #include <memory>
 #include <string>
-#include <thread>
 #include <vector>
 
 namespace ordex::sessions {
@@ -31,18 +29,19 @@ using Content = std::map<std::string, std::vector<std::string>>;
 Content ContentOf(const std::filesystem::path& file);
 
 // What another program does that writes for a while: readers are let through, writers wait. The
-// lock stands when the constructor returns, and goes after `duration`, or earlier with the object.
+// lock stands when the constructor returns, and goes with the object. It knows no time: on a busy
+// machine nobody can tell how far the others have come meanwhile.
 class WriteLock {
  public:
-  WriteLock(const std::filesystem::path& file, std::chrono::milliseconds duration);
+  explicit WriteLock(const std::filesystem::path& file);
 
  private:
   struct Closer {
     void operator()(sqlite3* database) const { sqlite3_close_v2(database); }
   };
 
+  // Closing it takes its transaction back.
   std::unique_ptr<sqlite3, Closer> database_;
-  std::jthread holder_;
 };
 
 }  // namespace ordex::sessions

@@ -90,6 +90,7 @@ class Runner {
         {"now", &Runner::Now},
         {"options", &Runner::Options},
         {"lock", &Runner::Lock},
+        {"leaves", &Runner::Leaves},
         {"as-nobody", &Runner::AsNobody},
         {"read-only", &Runner::ReadOnly},
         {"run", &Runner::RunBlock},
@@ -102,6 +103,8 @@ class Runner {
         {"sql-texts", &Runner::SqlTexts},
         {"types", &Runner::Types},
         {"setting", &Runner::Setting},
+        {"prints", &Runner::Prints},
+        {"says", &Runner::Says},
         {"present", &Runner::Present},
         {"absent", &Runner::Absent},
         {"database-unchanged", &Runner::DatabaseUnchanged},
@@ -209,9 +212,8 @@ class Runner {
   void Now(const Step& step) { task_.now = step.argument; }
   void Options(const Step& step) { task_.options = Words(step.argument); }
 
-  void Lock(const Step& step) {
-    task_.lock = std::chrono::milliseconds(NumberOf(step.argument, step.line));
-  }
+  void Lock(const Step&) { task_.locked = true; }
+  void Leaves(const Step& step) { workplace_.ExpectFile(step.argument); }
 
   void AsNobody(const Step&) { task_.asNobody = true; }
   void ReadOnly(const Step& step) { workplace_.MakeReadOnly(step.argument); }
@@ -223,7 +225,7 @@ class Runner {
     for (const std::string& line : step.block) task_.commands.push_back(WithoutIndent(line));
     task_.arguments.clear();
     Start(step);
-    task_.lock = {};
+    task_.locked = false;
   }
 
   void Call(const Step& step) {
@@ -304,6 +306,25 @@ class Runner {
     const std::optional<std::string> found = workplace_.Setting(words[0], words[1]);
     if (found == words[2] || (!found && words[2] == "absent")) return;
     Fail(step, "the setting is " + (found ? "\"" + *found + "\"" : std::string("absent")));
+  }
+
+  static bool HasLineWith(std::string_view text, std::string_view piece) {
+    while (!text.empty()) {
+      const std::size_t end = text.find('\n');
+      if (text.substr(0, end).find(piece) != std::string_view::npos) return true;
+      text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    }
+    return false;
+  }
+
+  void Prints(const Step& step) {
+    if (!HasLineWith(outcome_.output, step.argument)) Fail(step, "no line of the output holds it");
+  }
+
+  void Says(const Step& step) {
+    if (!HasLineWith(outcome_.errors, step.argument)) {
+      Fail(step, "no line of the error output holds it");
+    }
   }
 
   bool IsInOffice(const std::string& pattern) const {

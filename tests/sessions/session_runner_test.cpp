@@ -182,17 +182,65 @@ TEST(QueryRows, ValuesAreWrittenOnOneLineEach) {
             (std::vector<std::string>{"a\\|b\\r\\n\\t\\\\|NULL|1936.27|", "2|3|4|5"}));
 }
 
-TEST(WriteLock, KeepsOtherWritersOutForItsTimeAndLetsReadersIn) {
+// Whether a writer that does not wait gets its turn.
+bool CanWrite(const std::filesystem::path& file) {
+  sqlite3* database = nullptr;
+  sqlite3_open(file.c_str(), &database);
+  const int code = sqlite3_exec(database, "INSERT INTO T VALUES (1)", nullptr, nullptr, nullptr);
+  sqlite3_close(database);
+  return code == SQLITE_OK;
+}
+
+TEST(WriteLock, KeepsOtherWritersOutWhileItStandsAndLetsReadersIn) {
   const TemporaryFolder folder;
   const auto file = folder.path() / "a.db";
   MakeDatabase(file, {});
   RunSql(file, "CREATE TABLE T (A)");
-  const auto start = std::chrono::steady_clock::now();
-  const WriteLock lock(file, 300ms);
-  EXPECT_EQ(QueryRows(file, "SELECT count(*) FROM T"), std::vector<std::string>{"0"});
-  EXPECT_LT(std::chrono::steady_clock::now() - start, 250ms);
-  RunSql(file, "INSERT INTO T VALUES (1)");
-  EXPECT_GE(std::chrono::steady_clock::now() - start, 300ms);
+  {
+    const WriteLock lock(file);
+    EXPECT_FALSE(CanWrite(file));
+    EXPECT_EQ(QueryRows(file, "SELECT count(*) FROM T"), std::vector<std::string>{"0"});
+    EXPECT_FALSE(CanWrite(file));
+  }
+  EXPECT_TRUE(CanWrite(file));
+}
+
+// Another writer would wait in vain while the lock stands.
+TEST_F(SessionRunner, TheLockGoesOnceTheAwaitedTextIsPrintedOrWithTheRun) {
+  const auto failures =
+      Run("echo '{\"event\":\"sql\",\"text\":\"SELECT 7\"}'\nread a\n"
+          "echo '{\"event\":\"state\"}'\necho '{\"event\":\"state\"}'\n"
+          "echo '{\"event\":\"end\",\"reason\":\"closed\"}'\n",
+          "lock\nrun\n  !unlock SELECT 7\n"
+          "  !sql DELETE FROM Utenti WHERE ID_Utente = 4\nend\nexit 0\n"
+          "query SELECT count(*) FROM Utenti WHERE ID_Utente = 4\nrow 0\n"
+          "lock\nrun\nend\nexit 0\n"
+          "run\n  !sql DELETE FROM Utenti WHERE ID_Utente = 3\nend\nexit 0\n"
+          "query SELECT count(*) FROM Utenti WHERE ID_Utente = 3\nrow 0\n");
+  EXPECT_TRUE(failures.empty()) << failures.front().text;
+}
+
+TEST_F(SessionRunner, AFileThatMayBeLeftIsNoFault) {
+  const auto failures = Run(std::string("touch office/pagina.txt\n") + kPlain,
+                            "leaves pagina.txt\nrun\nend\nexit 0\npresent pagina.txt\n");
+  EXPECT_TRUE(failures.empty()) << failures.front().text;
+}
+
+TEST_F(SessionRunner, AVerbsEventsAndLinesAreLookedAt) {
+  const std::string console =
+      "echo \"$*\"\necho '{\"event\":\"finding\",\"line\":3}'\necho guasto >&2\nexit 1\n";
+  const auto failures = Run(console,
+                            "call check --dir office\nexit 1\nprints check --dir\n"
+                            "says guasto\nprints guasto\nsays finding\n");
+  ASSERT_EQ(failures.size(), 2U);
+  EXPECT_EQ(failures[0].line, 5U);
+  EXPECT_EQ(failures[1].line, 6U);
+  EXPECT_TRUE(Begins(Run(console, "call check --json\nexit 1\n"), 1,
+                     "a line of the output is no event: check --json"));
+  const auto events = Run("echo '{\"event\":\"finding\",\"line\":3}'\nexit 1\n",
+                          "call check --json\nexit 1\ncount 1 {\"event\":\"finding\"}\n"
+                          "last {\"line\":3}\n");
+  EXPECT_TRUE(events.empty()) << events.front().text;
 }
 
 }  // namespace

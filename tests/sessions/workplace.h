@@ -50,6 +50,8 @@ class Workplace {
   // Files that a session puts there itself, folders of their names included.
   void WriteWorkFile(const std::string& name, std::string_view text) const;
   void WriteOfficeFile(const std::string& name, std::string_view text);
+  // A file that the program may leave in the program folder.
+  void ExpectFile(const std::string& name) { ownFiles_.insert(name); }
   // A file or folder of the program folder that nobody may write to from here on.
   void MakeReadOnly(const std::string& name);
 
