@@ -7,7 +7,7 @@
 namespace ordex::desktop {
 namespace {
 
-constexpr int kSearchWidth = 290;
+constexpr int kSearchWidth = 230;
 constexpr int kGap = 6;
 constexpr std::string_view kNothing = "–";
 
@@ -43,11 +43,14 @@ CaseHeaderPanel::CaseHeaderPanel(wxWindow* parent, const CaseHeader& header, con
   penale_->SetFont(GetFont().Bold());
   penale_->SetForegroundColour(*wxWHITE);
   penale_->SetBackgroundColour(wxColour(0xC0, 0x28, 0x20));
+  auto* searchLabel = new wxStaticText(this, wxID_ANY, "Cerca pratica");
+  searchLabel->SetForegroundColour(Faint());
   search_ = new CaseSearchBox(this, header, run);
   search_->SetMinSize(wxSize(FromDIP(kSearchWidth), -1));
   searchRow_->Add(number_, 0, wxALIGN_CENTRE_VERTICAL);
   searchRow_->Add(penale_, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT, FromDIP(2 * kGap));
   searchRow_->AddStretchSpacer();
+  searchRow_->Add(searchLabel, 0, wxALIGN_CENTRE_VERTICAL | wxRIGHT, FromDIP(kGap));
   searchRow_->Add(search_, 0, wxALIGN_CENTRE_VERTICAL);
 
   auto* parties = addRow();

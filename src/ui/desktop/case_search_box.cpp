@@ -1,5 +1,7 @@
 #include "ui/desktop/case_search_box.h"
 
+#include <wx/toplevel.h>
+
 #include <algorithm>
 
 #include "base/text.h"
@@ -23,7 +25,7 @@ CaseSearchBox::CaseSearchBox(wxWindow* parent, const CaseHeader& header, const A
       popup_(new wxPopupWindow(this, wxBORDER_SIMPLE)),
       hits_(new wxListBox(popup_, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr,
                           wxLB_SINGLE | wxBORDER_NONE)) {
-  SetHint("Cerca pratica: numero, cognome, oggetto");
+  SetHint("numero, cognome, oggetto");
   hits_->SetName("Pratiche trovate");
   Bind(wxEVT_TEXT, [this](wxCommandEvent&) { pause_.StartOnce(kTypingPause); });
   Bind(wxEVT_TIMER, [this](wxTimerEvent&) { Search(); });
@@ -85,6 +87,14 @@ void CaseSearchBox::ChooseHit(int place) {
   drawn_.clear();
   ChangeValue(wxString());
   run_([idPra](MainWindow& window) { window.ChooseCase(idPra); });
+  FocusOnDefaultButton();
+}
+
+// With the case chosen, the Return key does what the window is there for.
+void CaseSearchBox::FocusOnDefaultButton() {
+  const auto* top = wxDynamicCast(wxGetTopLevelParent(this), wxTopLevelWindow);
+  wxWindow* button = top == nullptr ? nullptr : top->GetDefaultItem();
+  if (button != nullptr && button->IsEnabled()) button->SetFocus();
 }
 
 void CaseSearchBox::OnKey(wxKeyEvent& event) {

@@ -27,6 +27,7 @@ class CaseSearchBox : public wxTextCtrl {
   void Search();
   void ShowHits();
   void ChooseHit(int place);
+  void FocusOnDefaultButton();
   void OnKey(wxKeyEvent& event);
 
   const CaseHeader& header_;

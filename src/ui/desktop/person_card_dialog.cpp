@@ -34,9 +34,9 @@ PersonCardDialog::PersonCardDialog(wxWindow* parent, const PersonCard& card, Per
   rows->Add(MakeButtons(), 0, wxALIGN_RIGHT | wxLEFT | wxRIGHT | wxBOTTOM, FromDIP(kMargin));
   SetSizer(rows);
   // The height is the program's, but no text may be cut off where letters are large.
-  rows->SetMinSize(FromDIP(kWidth), -1);
   const wxSize needed = ClientToWindowSize(rows->CalcMin());
-  SetSize(needed.GetWidth(), std::max(needed.GetHeight(), Pixels(*this, card.height)));
+  SetSize(std::max(needed.GetWidth(), FromDIP(kWidth)),
+          std::max(needed.GetHeight(), Pixels(*this, card.height)));
   CentreOnParent();
 
   Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent&) { Do([this] { logic_.Close(); }); });
