@@ -8,7 +8,7 @@ cd "$(dirname "$0")"
 
 need_packages $BUILD_PACKAGES $DESKTOP_PACKAGES $DEMO_PACKAGES
 cmake --preset release -DORDEX_TESTS=OFF >/dev/null
-cmake --build --preset release -j "$(nproc)" --target ordex-console
+cmake --build --preset release -j "$(nproc)" --target ordex-console ordex
 
 console=$PWD/build/release/src/ordex-console
 office=$(mktemp -d)
@@ -59,3 +59,19 @@ click cmdSi
 ok
 COMMANDS
 show "after the create"
+
+# The window, where there is a display to show it on.
+echo
+if [ -n "${DISPLAY:-}" ]; then
+  need_packages xclip
+  xclip -selection clipboard -i samples/profilo-condominio.txt >/dev/null 2>&1
+  echo "=== the window opens on samples/profilo-condominio.txt; press Return to update, Esc to close"
+  build/release/src/ui/desktop/ordex --dir "$office" --settings "$office/settings.ini"
+  show "after the window"
+else
+  cat <<'TEXT'
+There is no display here, so the window stays closed. On a desktop: copy a page and start
+build/release/src/ui/desktop/ordex, or run ./demo.sh again there. The console does the same work:
+build/release/src/ordex-console --help
+TEXT
+fi

@@ -28,8 +28,8 @@ wxChoice* MakeBox(wxWindow* parent, const wxString& name) {
 }  // namespace
 
 ChoicePanel::ChoicePanel(wxWindow* parent, const CaseChoice& choice, const ActRunner& run)
-    : wxPanel(parent), choice_(choice) {
-  frameCliente_ = MakeFrameCliente(run);
+    : wxPanel(parent), choice_(choice), run_(run) {
+  frameCliente_ = MakeFrameCliente();
   frameUtenteCont_ = MakeFrameUtenteCont(run);
   auto* row = new wxBoxSizer(wxHORIZONTAL);
   row->Add(frameCliente_, 1, wxEXPAND | wxRIGHT, FromDIP(3 * kGap));
@@ -37,7 +37,7 @@ ChoicePanel::ChoicePanel(wxWindow* parent, const CaseChoice& choice, const ActRu
   SetSizer(row);
 }
 
-wxWindow* ChoicePanel::MakeFrameCliente(const ActRunner& run) {
+wxWindow* ChoicePanel::MakeFrameCliente() {
   const std::array<wxString, 2> captions = {" Cliente : ", " Controparte: "};
   const std::array<wxString, 2> names = {"Cliente", "Controparte"};
   auto* frame = new wxPanel(this);
@@ -46,15 +46,31 @@ wxWindow* ChoicePanel::MakeFrameCliente(const ActRunner& run) {
   for (std::size_t i = 0; i < cmbParti_.size(); ++i) {
     auto* label = new wxStaticText(frame, wxID_ANY, captions[i]);
     cmbParti_[i] = MakeBox(frame, names[i]);
-    cmbParti_[i]->Bind(wxEVT_CHOICE, [run, i](wxCommandEvent& event) {
-      const int place = event.GetSelection();
-      run([i, place](MainWindow& window) { window.SelectParty(i, place); });
-    });
+    cmbParti_[i]->Bind(wxEVT_CHOICE,
+                       [this, i](wxCommandEvent& event) { Choose(i, event.GetSelection()); });
+    cmbParti_[i]->Bind(wxEVT_CHAR_HOOK, [this, i](wxKeyEvent& event) { OnArrow(i, event); });
     grid->Add(label, 0, wxALIGN_CENTRE_VERTICAL);
     grid->Add(cmbParti_[i], 1, wxEXPAND);
   }
   frame->SetSizer(grid);
   return frame;
+}
+
+void ChoicePanel::Choose(std::size_t box, int place) {
+  reached_[box] = place;
+  run_([box, place](MainWindow& window) { window.SelectParty(box, place); });
+}
+
+// A party that the other box shows is cleared as soon as it is chosen. The arrow keys go on from
+// the entry that they had reached, or they would never get past it.
+void ChoicePanel::OnArrow(std::size_t box, wxKeyEvent& event) {
+  const int step = event.GetKeyCode() == WXK_DOWN ? 1 : event.GetKeyCode() == WXK_UP ? -1 : 0;
+  if (step == 0 || event.HasModifiers()) {
+    event.Skip();
+    return;
+  }
+  const int place = reached_[box] + step;
+  if (place >= 0 && place < static_cast<int>(cmbParti_[box]->GetCount())) Choose(box, place);
 }
 
 wxWindow* ChoicePanel::MakeFrameUtenteCont(const ActRunner& run) {
@@ -76,13 +92,15 @@ wxWindow* ChoicePanel::MakeFrameUtenteCont(const ActRunner& run) {
 void ChoicePanel::Draw() {
   for (std::size_t i = 0; i < cmbParti_.size(); ++i) DrawBox(*cmbParti_[i], choice_.cmbParti[i]);
   DrawBox(*cmbUtenteCont_, choice_.cmbUtenteCont);
-  const bool cliente = choice_.frameCliente.visible;
-  const bool utente = choice_.frameUtenteCont.visible;
-  // The panel first: the toolkit sizes nothing inside a hidden one.
-  if (IsShown() != (cliente || utente)) Show(cliente || utente);
-  if (frameCliente_->IsShown() != cliente) frameCliente_->Show(cliente);
-  if (frameUtenteCont_->IsShown() != utente) frameUtenteCont_->Show(utente);
+  const bool wanted = choice_.frameCliente.visible || choice_.frameUtenteCont.visible;
+  const bool appears = wanted && !IsShown();
+  frameCliente_->Show(choice_.frameCliente.visible);
+  frameUtenteCont_->Show(choice_.frameUtenteCont.visible);
+  Show(wanted);
   Layout();
+  // What the user has to choose next.
+  if (appears) reached_.fill(ComboBox::kNoChoice);
+  if (appears) cmbParti_[kBoxClient]->SetFocus();
 }
 
 }  // namespace ordex::desktop

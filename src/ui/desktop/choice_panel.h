@@ -18,13 +18,17 @@ class ChoicePanel : public wxPanel {
   void Draw();
 
  private:
-  wxWindow* MakeFrameCliente(const ActRunner& run);
+  wxWindow* MakeFrameCliente();
   wxWindow* MakeFrameUtenteCont(const ActRunner& run);
+  void Choose(std::size_t box, int place);
+  void OnArrow(std::size_t box, wxKeyEvent& event);
 
   const CaseChoice& choice_;
+  ActRunner run_;
   wxWindow* frameCliente_;
   wxWindow* frameUtenteCont_;
   std::array<wxChoice*, 2> cmbParti_{};
+  std::array<int, 2> reached_{};  // the entry that was chosen last, kept or not
   wxChoice* cmbUtenteCont_ = nullptr;
 };
 
