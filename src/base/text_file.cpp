@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "base/error.h"
+#include "base/path_text.h"
 #include "base/text.h"
 
 namespace ordex {
@@ -16,8 +17,7 @@ namespace {
 constexpr int kMostLinks = 40;
 
 std::string Quoted(const fs::path& path) {
-  const auto utf8 = path.u8string();
-  return "\"" + std::string(utf8.begin(), utf8.end()) + "\"";
+  return "\"" + TextOf(path) + "\"";
 }
 
 RunTimeError AccessError(const fs::path& path, std::string_view what) {
