@@ -77,7 +77,7 @@ build_utf8proc() {
   cmake_build "$WORK/utf8proc" "$WORK/utf8proc-build" -DUTF8PROC_ENABLE_TESTING=OFF
   mkdir -p "$LIBRARIES/lib/pkgconfig"
   cat >"$LIBRARIES/lib/pkgconfig/libutf8proc.pc" <<PC
-prefix=$LIBRARIES
+prefix=\${pcfiledir}/../..
 Name: libutf8proc
 Description: Unicode processing
 Version: $(sed -E 's/^[0-9]+://; s/[-+].*//' <<<"$1")
@@ -110,6 +110,18 @@ build_wx() {
     -DwxUSE_NANOSVG=builtin -DwxUSE_HTML=ON -DwxUSE_ACCESSIBILITY=ON -DwxBUILD_PRECOMP=OFF
 }
 
+# Whoever passes the programs on passes these texts on too.
+copy_licences() {
+  local package
+  mkdir -p "$LIBRARIES/licences"
+  for package in $SOURCE_PACKAGES; do
+    cp "$WORK/$package/debian/copyright" "$LIBRARIES/licences/$package.txt"
+  done
+  for package in $HEADER_PACKAGES mingw-w64-common gcc-mingw-w64-base; do
+    cp "/usr/share/doc/$package/copyright" "$LIBRARIES/licences/$package.txt"
+  done
+}
+
 # Headers alone: those of this system serve, taken out of the folder in which its own C library's stand.
 copy_headers() {
   local package file
@@ -135,9 +147,12 @@ need_libraries() {
   for package in $HEADER_PACKAGES; do
     key+="$package-$(dpkg-query -W -f '${Version}' "$package")_"
   done
-  # What is built how is part of the key, the compiler too.
-  key+=$({ "$TRIPLET-g++-posix" --version; cat "$PACKAGING/libraries.sh" "$PACKAGING/toolchain.cmake"; } |
-    sha256sum | cut -c1-12)
+  # How they are built is part of the key, and with which compiler.
+  key+=$({
+    "$TRIPLET-g++-posix" --version
+    cat "$PACKAGING/toolchain.cmake"
+    declare -f cmake_build build_utf8proc build_sqlite build_wx copy_headers copy_licences
+  } | sha256sum | cut -c1-12)
   LIBRARIES=$CACHE/${key//[^A-Za-z0-9._+-]/-}
   exec 9>"$CACHE/lock"
   flock 9
@@ -150,6 +165,7 @@ need_libraries() {
       fetch_source "$package" "${version[$package]}" "$WORK/$package"
     done
     copy_headers
+    copy_licences
     build_utf8proc "${version[utf8proc]}"
     build_sqlite
     build_wx
