@@ -154,6 +154,8 @@ int Main(std::vector<std::string> arguments, const fs::path& executable) {
   StandardStreams streams;
   Options options;
   CLI::App app("Ordex: importa in Praxion le pagine di OrdexWeb", "ordex-console");
+  // The same call means the same everywhere; the subcommands take this over.
+  app.allow_windows_style_options(false);
   Declare(app, options);
   CLI::App* db = app.add_subcommand("db", "il database incorporato");
   db->require_subcommand(1);
