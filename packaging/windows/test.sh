@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Runs the Windows programs that build.sh has made, under Wine, on a bare Debian machine.
 #   packaging/windows/test.sh            all of it
-#   packaging/windows/test.sh NAME...    parts of it: sessions, registry, names, installer
+#   packaging/windows/test.sh NAME...    parts of it: units, sessions, registry, names
 set -euo pipefail
 export PATH="${PATH:-/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin}" HOME="${HOME:-/root}"
 export LC_ALL=C.UTF-8
@@ -13,10 +13,12 @@ BUILD=$PWD/build/windows
 CONSOLE=$BUILD/pack/ordex-console.exe
 SESSIONS=$PWD/build/release/tests/sessions/sessions_tests
 SETTINGS_KEY='HKEY_CURRENT_USER\Software\VB and VBA Program Settings\Zelmo32'
+UNIT_TESTS="base_tests db_tests parse_tests store_tests cases_tests app_tests windows_tests"
 
 # Sessions that say something about the system below rather than about the program. Their console runs
 # as an unprivileged user, since root may write everywhere; Wine refuses to run in another user's
 # folder of settings, and on Windows rights are not those of a Unix file.
+
 NOT_UNDER_WINE="database.file_read_only database.program_folder_read_only database.read_only"
 
 fail() {
@@ -82,6 +84,26 @@ test_sessions() {
   done
   [ "$count" -ge 100 ] || fail "only $count sessions ran"
   echo "sessions: $count with the same transcript, left out: $NOT_UNDER_WINE"
+}
+
+# The unit and contract tests, built for Windows.
+test_units() {
+  local program
+  need_packages $TEST_PACKAGES
+  cmake -S . -B "$BUILD" -DORDEX_TESTS=ON >/dev/null
+  cmake --build "$BUILD" -j "$(nproc)" --target $UNIT_TESTS >"$WORK/units.log" 2>&1 ||
+    { tail -n 40 "$WORK/units.log" >&2; fail "building the tests"; }
+  for program in $UNIT_TESTS; do
+    run_units "$BUILD/tests/${program%_tests}/$program.exe"
+  done
+  # Once more as the case application, which is then running.
+  cp "$BUILD/tests/windows/windows_tests.exe" "$WORK/ProvaPraxion.exe"
+  run_units "$WORK/ProvaPraxion.exe" --gtest_filter='SystemProcesses.*'
+}
+
+run_units() {
+  wine "$@" >"$WORK/units.log" 2>&1 || { grep -vE '^\[ +(RUN|OK)' "$WORK/units.log" >&2; fail "$1"; }
+  echo "$(basename "$1"): $(grep -F '[  PASSED  ]' "$WORK/units.log" | tr -d '\r')"
 }
 
 # The settings in the user's registry, as lines like: Shared "Id_Utente"="7"
@@ -179,5 +201,5 @@ main() {
   for part in "$@"; do "test_$part"; done
 }
 
-if [ $# -eq 0 ]; then set -- registry names sessions; fi
+if [ $# -eq 0 ]; then set -- units registry names sessions; fi
 main "$@"
