@@ -1,5 +1,5 @@
 // What the process is given: its environment and its own file.
-#include "ui/platform/process.h"
+#include "ui/common/process.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>

@@ -8,7 +8,7 @@
 #include "app/praxion_running.h"
 #include "base/path_text.h"
 #include "base/text.h"
-#include "ui/platform/process.h"
+#include "ui/common/process.h"
 
 namespace ordex::testing {
 namespace {

@@ -1,7 +1,7 @@
 #include "ui/common/program_folder.h"
 
 #include "base/path_text.h"
-#include "ui/platform/process.h"
+#include "ui/common/process.h"
 
 namespace ordex {
 

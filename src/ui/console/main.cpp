@@ -8,7 +8,6 @@
 #include <string>
 #include <vector>
 
-#include "app/ini_settings.h"
 #include "base/date.h"
 #include "base/path_text.h"
 #include "base/text.h"
@@ -16,7 +15,9 @@
 #include "store/db/sqlite_connection.h"
 #include "ui/common/clocks.h"
 #include "ui/common/exit_code.h"
+#include "ui/common/process.h"
 #include "ui/common/program_folder.h"
+#include "ui/common/settings_store.h"
 #include "ui/console/check.h"
 #include "ui/console/command_source.h"
 #include "ui/console/explain.h"
@@ -24,8 +25,6 @@
 #include "ui/console/session.h"
 #include "ui/console/terminal.h"
 #include "ui/console/text_events.h"
-#include "ui/platform/process.h"
-#include "ui/platform/user_settings.h"
 
 namespace ordex::console {
 namespace fs = std::filesystem;
@@ -81,11 +80,6 @@ void Prompt() {
   std::cout << "ordex> " << std::flush;
 }
 
-std::unique_ptr<Settings> MakeSettings(const Options& options) {
-  if (options.settings.empty()) return UserSettings();
-  return std::make_unique<IniSettings>(PathOf(options.settings));
-}
-
 int RunSession(const Options& options, const fs::path& executable, std::istream& typed) {
   const auto clock = MakeClock(options);
   SessionClipboard clipboard;
@@ -98,7 +92,7 @@ int RunSession(const Options& options, const fs::path& executable, std::istream&
   const bool person = options.script.empty() && !options.json && PersonAtTerminal();
   CommandSource commands(options.script.empty() ? typed : script,
                          person ? Prompt : std::function<void()>{});
-  const auto settings = MakeSettings(options);
+  const auto settings = OpenSettings(options.settings);
   const auto events = MakeEvents(options);
   Session session(
       {ProgramFolder(options.dir, executable), *settings, *clock, clipboard, options.sql}, commands,

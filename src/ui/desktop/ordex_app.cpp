@@ -10,18 +10,16 @@
 #include <string>
 #include <vector>
 
-#include "app/ini_settings.h"
 #include "base/error.h"
 #include "base/number.h"
-#include "base/path_text.h"
 #include "store/db/open_connection.h"
 #include "ui/common/clocks.h"
 #include "ui/common/exit_code.h"
+#include "ui/common/process.h"
 #include "ui/common/program_folder.h"
+#include "ui/common/settings_store.h"
 #include "ui/desktop/platform.h"
 #include "ui/desktop/wx_text.h"
-#include "ui/platform/process.h"
-#include "ui/platform/user_settings.h"
 
 namespace ordex::desktop {
 namespace {
@@ -78,11 +76,7 @@ bool OrdexApp::TakeOptions() {
     Finish(0);
     return false;
   }
-  if (options_.settings.empty()) {
-    settings_ = UserSettings();
-  } else {
-    settings_ = std::make_unique<IniSettings>(PathOf(options_.settings));
-  }
+  settings_ = OpenSettings(options_.settings);
   if (options_.now) {
     clock_ = std::make_unique<FixedClock>(*options_.now);
   } else {

@@ -1,4 +1,4 @@
-#include "ui/platform/process.h"
+#include "ui/common/process.h"
 
 #include <cstdlib>
 #include <system_error>

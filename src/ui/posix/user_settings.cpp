@@ -1,4 +1,4 @@
-#include "ui/platform/user_settings.h"
+#include "ui/common/user_settings.h"
 
 #include "app/ini_settings.h"
 
