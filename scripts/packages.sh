@@ -5,6 +5,11 @@ DESKTOP_PACKAGES="libwxgtk3.2-dev libgtk-3-dev libx11-dev"
 DEMO_PACKAGES="sqlite3"
 TEST_PACKAGES="libgtest-dev libgmock-dev"
 BENCH_PACKAGES="libbenchmark-dev"
+# For the Windows programs: the compiler, and what their libraries' sources and icon are made with.
+WINDOWS_PACKAGES="g++-mingw-w64-x86-64-posix gcc g++ make cmake ninja-build pkg-config ccache dpkg-dev tcl
+  libcli11-dev nlohmann-json3-dev librsvg2-bin imagemagick nsis zip"
+# To run them here.
+WINDOWS_TEST_PACKAGES="wine64 xvfb xauth sqlite3"
 LINT_PACKAGES="clang-format clang-tidy"
 
 # Installs those of the named packages that are not there yet.

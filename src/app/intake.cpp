@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/error.h"
+#include "base/path_text.h"
 #include "base/text.h"
 #include "parse/recognition.h"
 
@@ -23,7 +24,7 @@ std::string PageText(const Clipboard& clipboard) {
 RunTimeError WriteError(const fs::path& file) {
   return MakeError(
       ErrorNumber::kFileAccess,
-      "impossibile scrivere il file della pagina \"" + file.string() +
+      "impossibile scrivere il file della pagina \"" + TextOf(file) +
           "\". Controllare i diritti sulla cartella del programma e lo spazio su disco.");
 }
 
@@ -47,7 +48,7 @@ void PageFileOnDisk::Delete() {
   fs::remove(path_, failure);
   if (failure) {
     throw MakeError(ErrorNumber::kFileAccess,
-                    "impossibile eliminare il file della pagina \"" + path_.string() + "\"");
+                    "impossibile eliminare il file della pagina \"" + TextOf(path_) + "\"");
   }
   present_ = false;
 }

@@ -6,6 +6,7 @@
 
 #include "app/mapping_check.h"
 #include "app/page_trial.h"
+#include "base/path_text.h"
 #include "base/text.h"
 #include "base/text_file.h"
 #include "parse/mapping_files.h"
@@ -29,7 +30,7 @@ class PageCheck {
   explicit PageCheck(fs::path programFolder) : programFolder_(std::move(programFolder)) {}
 
   void Run(const fs::path& file) {
-    const std::string name = file.filename().string();
+    const std::string name = TextOf(file.filename());
     const auto trial = TryPage(programFolder_, ReadTextFile(file));
     if (!trial) {
       Add(name, 0, Severity::kWarning,

@@ -1,12 +1,15 @@
 #include "base/text_file.h"
 
+#include <chrono>
 #include <cstdint>
 #include <fstream>
 #include <random>
 #include <system_error>
+#include <thread>
 #include <utility>
 
 #include "base/error.h"
+#include "base/path_text.h"
 #include "base/text.h"
 
 namespace ordex {
@@ -16,8 +19,7 @@ namespace {
 constexpr int kMostLinks = 40;
 
 std::string Quoted(const fs::path& path) {
-  const auto utf8 = path.u8string();
-  return "\"" + std::string(utf8.begin(), utf8.end()) + "\"";
+  return "\"" + TextOf(path) + "\"";
 }
 
 RunTimeError AccessError(const fs::path& path, std::string_view what) {
@@ -58,6 +60,36 @@ bool WriteNewFile(const fs::path& path, std::string_view text, const fs::path& o
   return !out.fail();
 }
 
+// Some systems replace no file that another program reads, and let nobody read it meanwhile;
+// neither takes long. Tries `act` again until it returns true, at most so often.
+template <class Act>
+bool TryUntil(int tries, Act act) {
+  constexpr std::chrono::milliseconds kPause{5};
+  for (int tried = 1; !act(); ++tried) {
+    if (tried == tries) return false;
+    std::this_thread::sleep_for(kPause);
+  }
+  return true;
+}
+
+bool PutInPlace(const fs::path& beside, const fs::path& target) {
+  constexpr int kHalfASecond = 100;
+  std::error_code failure;
+  TryUntil(kHalfASecond, [&] {
+    fs::rename(beside, target, failure);
+    return failure != std::errc::permission_denied;
+  });
+  return !failure;
+}
+
+bool OpenForReading(const fs::path& path, std::ifstream& in) {
+  constexpr int kATenthOfASecond = 20;
+  return TryUntil(kATenthOfASecond, [&] {
+    in.open(path, std::ios::binary);
+    return in.is_open();
+  });
+}
+
 }  // namespace
 
 std::string ReadTextFile(const fs::path& path) {
@@ -66,8 +98,10 @@ std::string ReadTextFile(const fs::path& path) {
   if (status.type() == fs::file_type::not_found) {
     throw MakeError(ErrorNumber::kFileNotFound, Quoted(path));
   }
-  std::ifstream in(path, std::ios::binary);
-  if (!in || fs::is_directory(status)) throw AccessError(path, "impossibile leggere");
+  std::ifstream in;
+  if (fs::is_directory(status) || !OpenForReading(path, in)) {
+    throw AccessError(path, "impossibile leggere");
+  }
   in.seekg(0, std::ios::end);
   const std::streamoff size = in.tellg();
   if (size < 0) throw AccessError(path, "impossibile leggere");
@@ -81,11 +115,9 @@ std::string ReadTextFile(const fs::path& path) {
 void ReplaceTextFile(const fs::path& path, std::string_view text) {
   const fs::path target = FollowLinks(path);
   const fs::path beside = NameBeside(target);
-  std::error_code failure;
-  const bool written = WriteNewFile(beside, text, target);
-  if (written) fs::rename(beside, target, failure);
-  if (written && !failure) return;
-  fs::remove(beside, failure);
+  if (WriteNewFile(beside, text, target) && PutInPlace(beside, target)) return;
+  std::error_code ignored;
+  fs::remove(beside, ignored);
   throw AccessError(path, "impossibile scrivere");
 }
 

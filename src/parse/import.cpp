@@ -1,5 +1,6 @@
 #include "parse/import.h"
 
+#include "base/path_text.h"
 #include "base/text.h"
 #include "base/text_file.h"
 #include "parse/history_paging.h"
@@ -67,7 +68,7 @@ std::optional<ImportStop> ImportFile(const ImportTask& task, std::string_view sz
 
 std::filesystem::path PageFile(const std::filesystem::path& programFolder,
                                std::string_view szNameInput) {
-  return programFolder / std::filesystem::path(std::string(szNameInput) + ".txt");
+  return programFolder / PathOf(std::string(szNameInput) + ".txt");
 }
 
 std::optional<ImportStop> Import(const ImportTask& task, std::string_view szNameInput,

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/error.h"
+#include "base/path_text.h"
 #include "base/text.h"
 #include "base/text_file.h"
 #include "parse/lines.h"
@@ -19,7 +20,7 @@ bool IsEntry(std::string_view line) {
 
 FileLineError LineError(ErrorNumber number, const std::filesystem::path& file,
                         const MappingLine& line, std::string_view advice) {
-  std::string where = "file \"" + file.filename().string() + "\", riga " +
+  std::string where = "file \"" + TextOf(file.filename()) + "\", riga " +
                       std::to_string(line.number) + ", \"" + line.text + "\". ";
   return {number, Describe(number, where.append(advice)), line.number};
 }

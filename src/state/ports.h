@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/date.h"
 #include "base/error.h"
@@ -77,6 +78,22 @@ class Settings {
   // An absent key reads as empty text.
   virtual std::string Get(std::string_view section, std::string_view key) const = 0;
   virtual void Save(std::string_view section, std::string_view key, std::string_view value) = 0;
+};
+
+// --- the system -------------------------------------------------------------------------------
+
+struct SystemVersion {
+  int platform = 0;  // 2 for every Windows of today
+  int minor = 0;
+};
+
+class Processes {
+ public:
+  virtual ~Processes() = default;
+  // nullopt where the system does not tell.
+  virtual std::optional<SystemVersion> Version() const = 0;
+  // The names of the executables that are running now; nullopt where the system gives no list.
+  virtual std::optional<std::vector<std::string>> Snapshot() const = 0;
 };
 
 // --- what goes on inside ----------------------------------------------------------------------

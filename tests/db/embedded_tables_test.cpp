@@ -9,6 +9,7 @@
 
 #include "base/text.h"
 #include "base/text_file.h"
+#include "store/db/sqlite_file.h"
 #include "support/db_office.h"
 
 namespace ordex {
@@ -129,7 +130,7 @@ TEST(EmbeddedTables, NothingGoesBeyondTablesAndIndexesThatAnyToolUnderstands) {
 TEST(EmbeddedTables, TheFileKeepsALogForEveryToolThatOpensIt) {
   const DbOffice office;
   sqlite3* tool = nullptr;
-  ASSERT_EQ(sqlite3_open(office.file().c_str(), &tool), SQLITE_OK);
+  ASSERT_EQ(sqlite3_open(SqliteFileName(office.file()).c_str(), &tool), SQLITE_OK);
   std::string mode;
   const auto keep = [](void* kept, int /*columns*/, char** values, char** /*names*/) {
     *static_cast<std::string*>(kept) = values[0];

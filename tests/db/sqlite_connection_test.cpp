@@ -9,6 +9,7 @@
 
 #include "connection_contract.h"
 #include "store/db/sqlite_catalog.h"
+#include "store/db/sqlite_file.h"
 #include "support/db_office.h"
 #include "support/db_raised.h"
 
@@ -245,7 +246,7 @@ TEST_F(SqliteConnectionTest, NamesWithQuotesAndBlanksAreNamesLikeAnyOther) {
 // The engine's answer to a stranger who empties the log: SQLITE_BUSY while any statement is open.
 int EmptyingTheLog(const fs::path& file) {
   sqlite3* other = nullptr;
-  int code = sqlite3_open(file.c_str(), &other);
+  int code = sqlite3_open(SqliteFileName(file).c_str(), &other);
   // Only a connection that has read something knows that there is a log.
   if (code == SQLITE_OK)
     code = sqlite3_exec(other, "SELECT * FROM Utenti", nullptr, nullptr, nullptr);

@@ -1,10 +1,8 @@
 // A folder of its own for one test, gone with everything in it when the test is over.
 #pragma once
 
-#include <stdlib.h>  // NOLINT(modernize-deprecated-headers): mkdtemp stands in no C++ header
-
 #include <filesystem>
-#include <stdexcept>
+#include <random>
 #include <string>
 #include <system_error>
 
@@ -13,9 +11,10 @@ namespace ordex {
 class DbTemporaryFolder {
  public:
   DbTemporaryFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "ordex-db-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder: " + name);
-    path_ = name;
+    std::random_device random;
+    do {
+      path_ = std::filesystem::temp_directory_path() / ("ordex-db-" + std::to_string(random()));
+    } while (!std::filesystem::create_directory(path_));
     // Tests about rights enter it as another user.
     std::filesystem::permissions(
         path_, std::filesystem::perms::owner_all | std::filesystem::perms::group_read |

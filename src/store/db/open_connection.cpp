@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/error.h"
+#include "base/path_text.h"
 #include "base/text.h"
 #include "store/db/connection_string.h"
 #include "store/db/sqlite_connection.h"
@@ -42,10 +43,6 @@ std::string_view Presentable(std::string_view source) {
   return source.substr(0, source.find('='));
 }
 
-fs::path FromUtf8(std::string_view text) {
-  return {std::u8string(text.begin(), text.end())};
-}
-
 }  // namespace
 
 std::unique_ptr<Connection> OpenConnection(std::string_view connectionString,
@@ -57,7 +54,7 @@ std::unique_ptr<Connection> OpenConnection(std::string_view connectionString,
   if (EqualIgnoringCase(Left(source, kFilePrefix.size()), kFilePrefix)) {
     const std::string_view file = Trim(std::string_view(source).substr(kFilePrefix.size()));
     if (file.empty()) throw SettingsError("\"Data Source=file:\" non indica nessun file");
-    return OpenSqlite(programFolder / FromUtf8(file));
+    return OpenSqlite(programFolder / PathOf(file));
   }
   throw MakeError(ErrorNumber::kDatabase,
                   "impossibile aprire \"" + std::string(Presentable(source)) +

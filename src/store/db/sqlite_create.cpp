@@ -1,10 +1,9 @@
 #include <array>
-#include <cstdio>
-#include <memory>
 #include <random>
 #include <string>
 #include <system_error>
 
+#include "base/path_text.h"
 #include "store/db/embedded_sql.h"
 #include "store/db/sqlite_connection.h"
 #include "store/db/sqlite_error.h"
@@ -39,7 +38,7 @@ void RequireFree(const fs::path& file) {
   for (const std::string_view ending : kWorkingFiles) {
     const fs::path beside = fs::path(file).concat(ending);
     if (fs::exists(beside, ignored)) {
-      throw CreateError(file, "accanto c'è ancora \"" + beside.string() +
+      throw CreateError(file, "accanto c'è ancora \"" + TextOf(beside) +
                                   "\", resto di un altro database; spostarlo o cancellarlo");
     }
   }
@@ -76,33 +75,26 @@ void Fill(sqlite3* database, bool sample) {
   RunSqlite(database, "COMMIT");
 }
 
-// For file systems without links: takes the name by making an empty file, which fails where there
-// is one, and puts the database in its place.
-void MoveInto(const fs::path& made, const fs::path& file) {
-  struct Closer {
-    void operator()(std::FILE* stream) const { std::fclose(stream); }
-  };
+// For file systems without links. Where there is a file of that name already, copying fails and
+// leaves it alone; the only failure that can leave a half of ours behind is a disk that is full.
+void CopyInto(const fs::path& made, const fs::path& file) {
   std::error_code failure;
-  {
-    const std::unique_ptr<std::FILE, Closer> reserved(std::fopen(file.string().c_str(), "wbx"));
-    if (!reserved) {
-      if (fs::exists(file, failure)) throw ExistsError(file);
-      throw CreateError(file, SqliteErrorText(SQLITE_CANTOPEN, {}));
-    }
-  }
-  fs::rename(made, file, failure);
-  if (failure) {
-    std::error_code ignored;
-    fs::remove(file, ignored);
+  fs::copy_file(made, file, failure);
+  if (!failure) return;
+  if (failure == std::errc::file_exists) throw ExistsError(file);
+  if (failure != std::errc::no_space_on_device) {
     throw CreateError(file, SqliteErrorText(SQLITE_CANTOPEN, {}));
   }
+  std::error_code ignored;
+  fs::remove(file, ignored);
+  throw CreateError(file, SqliteErrorText(SQLITE_FULL, {}));
 }
 
 void PutInPlace(const fs::path& made, const fs::path& file) {
   std::error_code failure;
   fs::create_hard_link(made, file, failure);
   if (failure == std::errc::file_exists) throw ExistsError(file);
-  if (failure) MoveInto(made, file);
+  if (failure) CopyInto(made, file);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "store/db/sqlite_error.h"
 
+#include "base/path_text.h"
+
 namespace ordex {
 namespace {
 
@@ -48,7 +50,7 @@ RunTimeError SqliteError(sqlite3* database, int code) {
 }
 
 RunTimeError SqliteFileError(const std::filesystem::path& file, std::string_view problem) {
-  return MakeError(ErrorNumber::kDatabase, "\"" + file.string() + "\": " + std::string(problem));
+  return MakeError(ErrorNumber::kDatabase, "\"" + TextOf(file) + "\": " + std::string(problem));
 }
 
 }  // namespace ordex

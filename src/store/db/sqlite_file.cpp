@@ -5,15 +5,12 @@
 #include <string_view>
 #include <system_error>
 
+#include "base/path_text.h"
 #include "store/db/sqlite_error.h"
 
 namespace ordex {
 namespace fs = std::filesystem;
 namespace {
-
-std::string Utf8(const std::u8string& text) {
-  return {text.begin(), text.end()};
-}
 
 RunTimeError OpenError(const fs::path& file, std::string_view problem) {
   return SqliteFileError(file, "impossibile aprire il database: " + std::string(problem));
@@ -62,7 +59,7 @@ std::string UnchangingUri(const fs::path& file) {
   constexpr std::string_view kPlain =
       "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_./:";
   constexpr std::string_view kHex = "0123456789ABCDEF";
-  const std::string name = Utf8(fs::absolute(file).generic_u8string());
+  const std::string name = GenericTextOf(fs::absolute(file));
   std::string uri = name.starts_with('/') ? "file://" : "file:///";
   for (const char character : name) {
     if (kPlain.find(character) != std::string_view::npos) {
@@ -90,7 +87,7 @@ bool MayBeReadAsItStands(int code, const fs::path& file) {
 }  // namespace
 
 std::string SqliteFileName(const fs::path& file) {
-  return Utf8(fs::absolute(file).u8string());
+  return TextOf(fs::absolute(file));
 }
 
 SqliteHandle OpenSqliteFile(const fs::path& file, int busyMilliseconds) {

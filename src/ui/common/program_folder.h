@@ -7,6 +7,7 @@
 namespace ordex {
 
 // `option`, where it is given, else the folder that ORDEX_DIR names, else that of the executable.
-std::filesystem::path ProgramFolder(const std::string& option, const char* executable);
+std::filesystem::path ProgramFolder(const std::string& option,
+                                    const std::filesystem::path& executable);
 
 }  // namespace ordex

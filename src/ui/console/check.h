@@ -2,14 +2,13 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
 
 namespace ordex::console {
 
 struct CheckOptions {
   std::filesystem::path programFolder;
-  std::string settings;  // empty: the mapped names are compared with no database
-  std::string pages;     // empty: no stored pages are tried
+  std::filesystem::path settings;  // empty: the mapped names are compared with no database
+  std::filesystem::path pages;     // empty: no stored pages are tried
   bool json = false;
 };
 

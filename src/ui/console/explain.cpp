@@ -76,7 +76,8 @@ void PrintText(const PageTrial& trial) {
 
 }  // namespace
 
-int Explain(const std::filesystem::path& programFolder, const std::string& pageFile, bool json) {
+int Explain(const std::filesystem::path& programFolder, const std::filesystem::path& pageFile,
+            bool json) {
   const auto trial = TryPage(programFolder, ReadTextFile(pageFile));
   if (!trial) {
     if (json) {

@@ -1,19 +1,23 @@
 // ordex-console: the main window on a terminal.
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <fstream>
 #include <iostream>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
-#include "app/ini_settings.h"
 #include "base/date.h"
+#include "base/path_text.h"
 #include "base/text.h"
 #include "base/text_file.h"
 #include "store/db/sqlite_connection.h"
 #include "ui/common/clocks.h"
 #include "ui/common/exit_code.h"
+#include "ui/common/process.h"
 #include "ui/common/program_folder.h"
+#include "ui/common/settings_store.h"
 #include "ui/console/check.h"
 #include "ui/console/command_source.h"
 #include "ui/console/explain.h"
@@ -23,6 +27,7 @@
 #include "ui/console/text_events.h"
 
 namespace ordex::console {
+namespace fs = std::filesystem;
 namespace {
 
 constexpr int kWrongCall = 2;
@@ -65,7 +70,7 @@ std::unique_ptr<Events> MakeEvents(const Options& options) {
 void PutOnClipboard(const Options& options, SessionClipboard& clipboard) {
   if (options.clipboard.empty()) return;
   try {
-    clipboard.SetText(ReadTextFile(options.clipboard));
+    clipboard.SetText(ReadTextFile(PathOf(options.clipboard)));
   } catch (const RunTimeError& error) {
     throw WrongCall{"--clipboard: " + error.description()};
   }
@@ -75,23 +80,22 @@ void Prompt() {
   std::cout << "ordex> " << std::flush;
 }
 
-int RunSession(const Options& options, const char* executable) {
+int RunSession(const Options& options, const fs::path& executable, std::istream& typed) {
   const auto clock = MakeClock(options);
   SessionClipboard clipboard;
   PutOnClipboard(options, clipboard);
   std::ifstream script;
   if (!options.script.empty()) {
-    script.open(options.script);
+    script.open(PathOf(options.script), std::ios::binary);
     if (!script) throw WrongCall{"--script: impossibile leggere \"" + options.script + "\""};
   }
   const bool person = options.script.empty() && !options.json && PersonAtTerminal();
-  CommandSource commands(options.script.empty() ? std::cin : static_cast<std::istream&>(script),
+  CommandSource commands(options.script.empty() ? typed : script,
                          person ? Prompt : std::function<void()>{});
-  IniSettings settings(options.settings.empty() ? UserSettingsFile()
-                                                : std::filesystem::path(options.settings));
+  const auto settings = OpenSettings(options.settings);
   const auto events = MakeEvents(options);
   Session session(
-      {ProgramFolder(options.dir, executable), settings, *clock, clipboard, options.sql}, commands,
+      {ProgramFolder(options.dir, executable), *settings, *clock, clipboard, options.sql}, commands,
       *events);
   return ExitCode(session.Run());
 }
@@ -103,28 +107,28 @@ int OrWrongCall(Work work) {
     return work();
   } catch (const RunTimeError& error) {
     throw WrongCall{error.description()};
-  } catch (const std::filesystem::filesystem_error& error) {
-    throw WrongCall{"impossibile leggere \"" + error.path1().string() + "\""};
+  } catch (const fs::filesystem_error& error) {
+    throw WrongCall{"impossibile leggere \"" + TextOf(error.path1()) + "\""};
   }
 }
 
 int CreateDatabase(const Options& options) {
   return OrWrongCall([&] {
-    CreateSqliteDatabase(options.newDatabase, options.sample);
+    CreateSqliteDatabase(PathOf(options.newDatabase), options.sample);
     return 0;
   });
 }
 
-int RunCheck(const Options& options, const char* executable) {
+int RunCheck(const Options& options, const fs::path& executable) {
   return OrWrongCall([&] {
-    return CheckMappingFiles(
-        {ProgramFolder(options.dir, executable), options.settings, options.pages, options.json});
+    return CheckMappingFiles({ProgramFolder(options.dir, executable), PathOf(options.settings),
+                              PathOf(options.pages), options.json});
   });
 }
 
-int RunExplain(const Options& options, const char* executable) {
+int RunExplain(const Options& options, const fs::path& executable) {
   return OrWrongCall([&] {
-    return Explain(ProgramFolder(options.dir, executable), options.pageFile, options.json);
+    return Explain(ProgramFolder(options.dir, executable), PathOf(options.pageFile), options.json);
   });
 }
 
@@ -139,9 +143,13 @@ void Declare(CLI::App& app, Options& options) {
   app.add_flag("--sql", options.sql, "anche i testi SQL");
 }
 
-int Main(int argc, char** argv) {
+// `arguments` stand behind the program's name, `executable` is the program's file.
+int Main(std::vector<std::string> arguments, const fs::path& executable) {
+  StandardStreams streams;
   Options options;
   CLI::App app("Ordex: importa in Praxion le pagine di OrdexWeb", "ordex-console");
+  // The same call means the same everywhere; the subcommands take this over.
+  app.allow_windows_style_options(false);
   Declare(app, options);
   CLI::App* db = app.add_subcommand("db", "il database incorporato");
   db->require_subcommand(1);
@@ -158,11 +166,13 @@ int Main(int argc, char** argv) {
   explain->add_flag("--json", options.json, "un oggetto JSON per riga");
   explain->add_option("PAGEFILE", options.pageFile, "il testo di una pagina")->required();
   try {
-    app.parse(argc, argv);
+    // Taken from the back.
+    std::reverse(arguments.begin(), arguments.end());
+    app.parse(arguments);
     if (create->parsed()) return CreateDatabase(options);
-    if (check->parsed()) return RunCheck(options, argv[0]);
-    if (explain->parsed()) return RunExplain(options, argv[0]);
-    return RunSession(options, argv[0]);
+    if (check->parsed()) return RunCheck(options, executable);
+    if (explain->parsed()) return RunExplain(options, executable);
+    return RunSession(options, executable, streams.in());
   } catch (const CLI::CallForHelp&) {
     std::cout << app.help();
     return 0;
@@ -179,5 +189,6 @@ int Main(int argc, char** argv) {
 }  // namespace ordex::console
 
 int main(int argc, char** argv) {
-  return ordex::console::Main(argc, argv);
+  return ordex::console::Main(ordex::Arguments(argc, argv),
+                              ordex::ExecutableFile(argc > 0 ? argv[0] : ""));
 }

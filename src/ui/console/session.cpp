@@ -6,6 +6,7 @@
 
 #include "base/error.h"
 #include "base/number.h"
+#include "base/path_text.h"
 #include "base/text.h"
 #include "base/text_file.h"
 #include "store/db/open_connection.h"
@@ -232,7 +233,7 @@ bool Session::ClickRow(std::string_view number) {
 
 bool Session::PutOnClipboard(const std::string& file) {
   try {
-    clipboard_.SetText(ReadTextFile(file));
+    clipboard_.SetText(ReadTextFile(PathOf(file)));
     return true;
   } catch (const RunTimeError& error) {
     std::cerr << error.description() << "\n";

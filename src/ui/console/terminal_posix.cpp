@@ -1,9 +1,22 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <iostream>
+
 #include "ui/console/terminal.h"
 
 namespace ordex::console {
+
+// Here they do so anyway.
+struct StandardStreams::Parts {};
+
+StandardStreams::StandardStreams() = default;
+
+StandardStreams::~StandardStreams() = default;
+
+std::istream& StandardStreams::in() {
+  return std::cin;
+}
 
 bool PersonAtTerminal() {
   return isatty(STDIN_FILENO) == 1;

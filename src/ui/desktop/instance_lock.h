@@ -2,6 +2,7 @@
 // process that ends, however it ends, so that none is left behind.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace ordex::desktop {
@@ -18,7 +19,9 @@ class InstanceLock {
   bool Acquire();
 
  private:
-  int handle_ = -1;
+  static constexpr std::intptr_t kNone = -1;
+
+  std::intptr_t handle_ = kNone;  // the system's
 };
 
 // Where the first instance listens for a second start: a DDE service, or the path of a socket that

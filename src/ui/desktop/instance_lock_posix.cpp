@@ -35,17 +35,17 @@ fs::path RuntimeFolder() {
 }  // namespace
 
 InstanceLock::~InstanceLock() {
-  if (handle_ >= 0) close(handle_);
+  if (handle_ != kNone) close(static_cast<int>(handle_));
 }
 
 bool InstanceLock::Acquire() {
-  if (handle_ < 0) {
+  if (handle_ == kNone) {
     const fs::path file = RuntimeFolder() / "lock";
     handle_ = open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
   }
-  if (handle_ < 0)
+  if (handle_ == kNone)
     throw MakeError(ErrorNumber::kFileAccess, "impossibile creare il file di blocco");
-  return flock(handle_, LOCK_EX | LOCK_NB) == 0;
+  return flock(static_cast<int>(handle_), LOCK_EX | LOCK_NB) == 0;
 }
 
 std::string LinkService() {

@@ -10,13 +10,14 @@
 #include <string>
 #include <vector>
 
-#include "app/ini_settings.h"
 #include "base/error.h"
 #include "base/number.h"
 #include "store/db/open_connection.h"
 #include "ui/common/clocks.h"
 #include "ui/common/exit_code.h"
+#include "ui/common/process.h"
 #include "ui/common/program_folder.h"
+#include "ui/common/settings_store.h"
 #include "ui/desktop/platform.h"
 #include "ui/desktop/wx_text.h"
 
@@ -75,8 +76,7 @@ bool OrdexApp::TakeOptions() {
     Finish(0);
     return false;
   }
-  settings_ = std::make_unique<IniSettings>(
-      options_.settings.empty() ? UserSettingsFile() : std::filesystem::path(options_.settings));
+  settings_ = OpenSettings(options_.settings);
   if (options_.now) {
     clock_ = std::make_unique<FixedClock>(*options_.now);
   } else {
@@ -106,7 +106,8 @@ void OrdexApp::ShowOrdex() const {
 }
 
 void OrdexApp::OpenWindow() {
-  const std::filesystem::path folder = ProgramFolder(options_.dir, Utf8(argv[0]).c_str());
+  const std::filesystem::path folder =
+      ProgramFolder(options_.dir, ExecutableFile(Utf8(argv[0]).c_str()));
   window_ = std::make_unique<MainWindow>(
       folder, World{ports_, ports_, ports_, clipboard_, *clock_, *settings_, ports_, ports_,
                     [folder](std::string_view connectionString) {
