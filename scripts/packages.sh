@@ -1,8 +1,11 @@
 # Debian packages by what they are needed for; to be sourced.
 
-BUILD_PACKAGES="g++ cmake ninja-build pkg-config ccache libsqlite3-dev libutf8proc-dev libcli11-dev nlohmann-json3-dev"
+BUILD_PACKAGES="g++ cmake ninja-build pkg-config ccache libsqlite3-dev unixodbc-dev libutf8proc-dev libcli11-dev nlohmann-json3-dev"
 DEMO_PACKAGES="sqlite3"
-TEST_PACKAGES="libgtest-dev libgmock-dev"
+# Drivers that are found when the program runs: FreeTDS for SQL Server, and one for the embedded
+# database, over which the tests pass through ODBC.
+RUN_PACKAGES="tdsodbc"
+TEST_PACKAGES="libgtest-dev libgmock-dev libsqliteodbc tdsodbc"
 BENCH_PACKAGES="libbenchmark-dev"
 LINT_PACKAGES="clang-format clang-tidy"
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "connection_contract.h"
+#include "store/db/declared_type.h"
 #include "store/db/sqlite_catalog.h"
 #include "support/db_office.h"
 #include "support/db_raised.h"
