@@ -2,9 +2,8 @@
 
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config ccache libsqlite3-dev unixodbc-dev libutf8proc-dev libcli11-dev nlohmann-json3-dev"
 DEMO_PACKAGES="sqlite3"
-# Drivers that are found when the program runs: FreeTDS for SQL Server, and one for the embedded
-# database, over which the tests pass through ODBC.
-RUN_PACKAGES="tdsodbc"
+# With two ODBC drivers that are loaded when the program runs: one for the embedded database, over which
+# the tests pass through ODBC too, and FreeTDS, the one for SQL Server.
 TEST_PACKAGES="libgtest-dev libgmock-dev libsqliteodbc tdsodbc"
 BENCH_PACKAGES="libbenchmark-dev"
 LINT_PACKAGES="clang-format clang-tidy"

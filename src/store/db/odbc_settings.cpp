@@ -225,12 +225,12 @@ std::string ToUtf8(const fs::path& path) {
 }
 
 // "file:PATH" of the data source, else the database's name.
-std::string DatabaseFile(const ServerSettings& settings, const fs::path& programFolder) {
+fs::path DatabaseFile(const ServerSettings& settings, const fs::path& programFolder) {
   constexpr std::string_view kFile = "file:";
   std::string_view file = settings.source;
   if (EqualAscii(Left(file, kFile.size()), kFile)) file.remove_prefix(kFile.size());
   if (Trim(file).empty()) file = settings.database;
-  return ToUtf8(programFolder / FromUtf8(Trim(file)));
+  return programFolder / FromUtf8(Trim(file));
 }
 
 unsigned LoginTimeOut(const ServerSettings& settings) {
@@ -266,7 +266,8 @@ OdbcTarget TranslateToOdbc(const ServerSettings& settings, std::string_view driv
       AddFreeTds(settings, builder);
       break;
     case Words::kSqlite:
-      target.shown = DatabaseFile(settings, programFolder);
+      target.file = DatabaseFile(settings, programFolder);
+      target.shown = ToUtf8(target.file);
       builder.Add("Database", target.shown);
       // An absent file is an error, and a writer waits as long as without ODBC.
       builder.Add("NoCreat", "1");

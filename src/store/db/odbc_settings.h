@@ -44,6 +44,7 @@ struct OdbcTarget {
   std::string connectionString;  // the driver's own words; holds the password
   std::string password;          // never to be told; empty where there is none
   std::string shown;             // the server or file, for messages
+  std::filesystem::path file;    // of an embedded database; empty: a server
   unsigned loginTimeOut = 15;    // seconds
 };
 

@@ -24,13 +24,21 @@ fs::path FromUtf8(std::string_view text) {
   return {std::u8string(text.begin(), text.end())};
 }
 
+std::unique_ptr<Connection> OpenNamedDriver(const ServerSettings& settings,
+                                            const fs::path& programFolder) {
+  const OdbcTarget target = TranslateToOdbc(settings, {}, programFolder);
+  // What keeps a file from being opened the driver for it does not tell.
+  if (!target.file.empty()) OpenSqlite(target.file);
+  return OpenOdbc(target);
+}
+
 }  // namespace
 
 std::unique_ptr<Connection> OpenConnection(std::string_view connectionString,
                                            const fs::path& programFolder) {
   const ServerSettings settings = ReadServerSettings(connectionString);
   const std::string& source = settings.source;
-  if (!settings.driver.empty()) return OpenOdbc(TranslateToOdbc(settings, {}, programFolder));
+  if (!settings.driver.empty()) return OpenNamedDriver(settings, programFolder);
   if (source.empty()) {
     throw SettingsError("le impostazioni non indicano un server (manca \"Data Source\")");
   }
