@@ -14,6 +14,7 @@
 #include "ui/console/check.h"
 #include "ui/console/clocks.h"
 #include "ui/console/command_source.h"
+#include "ui/console/database_verbs.h"
 #include "ui/console/explain.h"
 #include "ui/console/json_events.h"
 #include "ui/console/program_folder.h"
@@ -126,6 +127,17 @@ int CreateDatabase(const Options& options) {
   });
 }
 
+int PrintScript() {
+  PrintDatabaseScript();
+  return 0;
+}
+
+int RunDatabaseTest(const Options& options, const char* executable) {
+  return OrWrongCall([&] {
+    return TestDatabase({ProgramFolder(options.dir, executable), options.settings, options.json});
+  });
+}
+
 int RunCheck(const Options& options, const char* executable) {
   return OrWrongCall([&] {
     return CheckMappingFiles(
@@ -154,11 +166,17 @@ int Main(int argc, char** argv) {
   Options options;
   CLI::App app("Ordex: importa in Praxion le pagine di OrdexWeb", "ordex-console");
   Declare(app, options);
-  CLI::App* db = app.add_subcommand("db", "il database incorporato");
+  CLI::App* db = app.add_subcommand("db", "il database");
   db->require_subcommand(1);
-  CLI::App* create = db->add_subcommand("create", "crea un nuovo database vuoto");
+  CLI::App* create = db->add_subcommand("create", "crea un nuovo database incorporato, vuoto");
   create->add_option("FILE", options.newDatabase, "il file da creare")->required();
   create->add_flag("--sample", options.sample, "con le pratiche e le persone di esempio");
+  CLI::App* script = db->add_subcommand(
+      "script", "mostra le tabelle di un database di prova per SQL Server, in T-SQL");
+  CLI::App* test = db->add_subcommand("test", "prova il collegamento e cerca ciò che manca");
+  test->add_option("--dir", options.dir, "cartella del programma");
+  test->add_option("--settings", options.settings, "file delle impostazioni dell'utente");
+  test->add_flag("--json", options.json, "un oggetto JSON per riga");
   CLI::App* check = app.add_subcommand("check", "controlla i file di mappatura");
   check->add_option("--dir", options.dir, "cartella del programma");
   check->add_option("--pages", options.pages, "cartella di pagine da provare");
@@ -171,6 +189,8 @@ int Main(int argc, char** argv) {
   try {
     app.parse(argc, argv);
     if (create->parsed()) return CreateDatabase(options);
+    if (script->parsed()) return PrintScript();
+    if (test->parsed()) return RunDatabaseTest(options, argv[0]);
     if (check->parsed()) return RunCheck(options, argv[0]);
     if (explain->parsed()) return RunExplain(options, argv[0]);
     return RunSession(options, argv[0]);
