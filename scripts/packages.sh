@@ -1,9 +1,11 @@
 # Debian packages by what they are needed for; to be sourced.
 
-BUILD_PACKAGES="g++ cmake ninja-build pkg-config ccache libsqlite3-dev libutf8proc-dev libcli11-dev nlohmann-json3-dev"
+BUILD_PACKAGES="g++ cmake ninja-build pkg-config ccache libsqlite3-dev unixodbc-dev libutf8proc-dev libcli11-dev nlohmann-json3-dev"
 DESKTOP_PACKAGES="libwxgtk3.2-dev libgtk-3-dev libx11-dev"
 DEMO_PACKAGES="sqlite3"
-TEST_PACKAGES="libgtest-dev libgmock-dev"
+# With two ODBC drivers that are loaded when the program runs: one for the embedded database, over which
+# the tests pass through ODBC too, and FreeTDS, the one for SQL Server.
+TEST_PACKAGES="libgtest-dev libgmock-dev libsqliteodbc tdsodbc"
 BENCH_PACKAGES="libbenchmark-dev"
 # For the Windows programs: the compiler, and what their libraries' sources and icon are made with.
 WINDOWS_PACKAGES="g++-mingw-w64-x86-64-posix gcc g++ make cmake ninja-build pkg-config ccache dpkg-dev tcl

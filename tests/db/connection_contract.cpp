@@ -104,6 +104,7 @@ TEST_P(ConnectionContract, ALimitedSelectGivesNoMoreRows) {
 }
 
 TEST_P(ConnectionContract, LetterCaseIsUnicodes) {
+  if (!GetParam().unicodeLetterCase) GTEST_SKIP() << "the engine knows ASCII letters alone";
   connection().Insert("Anagrafica", std::vector<NamedValue>{{"Cognome", Text("ȘTEFĂNESCU ŁÓDŹ")},
                                                             {"Nome", Text("Élodie")}});
   EXPECT_EQ(Rows("SELECT ID_Ana from Anagrafica where  LOWER(Cognome) = 'ștefănescu łódź'").size(),

@@ -25,6 +25,8 @@ class ContractDatabase {
 struct Driver {
   std::string name;
   std::function<std::unique_ptr<ContractDatabase>()> make;
+  // False where the engine's LOWER and UPPER change ASCII letters alone.
+  bool unicodeLetterCase = true;
 };
 
 inline std::string DriverName(const testing::TestParamInfo<Driver>& info) {

@@ -76,19 +76,62 @@ TEST(OpenConnection, AFileSourceWithoutAFileIsToldByTheNamesOfTheSettings) {
                     "\"Zelmo32\", sezione \"startup\", chiavi \"Security\" e \"Server\"."));
 }
 
-TEST(OpenConnection, AServerIsNamedAndAPasswordNever) {
-  const DbRaised wanted = DbError(
-      "impossibile aprire \"SRV\\ORD\": questa versione del programma non contiene il driver per "
-      "SQL Server");
-  EXPECT_EQ(DbRaisedBy([] {
-              OpenConnection("Provider=SQLNCLI.1;User ID=sa;Password=segreto;Data Source=SRV\\ORD",
-                             ".");
-            }),
-            wanted);
-  // A semicolon was forgotten before the password.
-  const DbRaised forgotten =
-      DbRaisedBy([] { OpenConnection("Data Source=SRV Password=segreto", "."); });
-  EXPECT_EQ(forgotten.description.find("segreto"), std::string::npos);
+// Nothing listens on that port.
+constexpr const char* kNoServer = "127.0.0.1,1";
+
+TEST(OpenConnection, AServerThatIsNotReachedIsNamedAndAPasswordNever) {
+  const DbRaised raised = DbRaisedBy([] {
+    OpenConnection(
+        std::string("Provider=SQLNCLI.1;User ID=sa;Password=segreto;Data Source=") + kNoServer,
+        ".");
+  });
+  EXPECT_EQ(raised.number, kDatabaseNumber);
+  EXPECT_EQ(raised.description.find("Errore del database: impossibile aprire \"127.0.0.1,1\": il "
+                                    "server non si raggiunge; controllare il nome del server, la "
+                                    "rete e che SQL Server sia in funzione"),
+            0U)
+      << raised.description;
+  EXPECT_EQ(raised.description.find("segreto"), std::string::npos);
+}
+
+TEST(OpenConnection, APasswordBehindAForgottenSemicolonIsNotTold) {
+  const DbRaised raised = DbRaisedBy(
+      [] { OpenConnection(std::string("Data Source=") + kNoServer + " Password=segreto", "."); });
+  EXPECT_EQ(raised.number, kDatabaseNumber);
+  EXPECT_EQ(raised.description.find("segreto"), std::string::npos) << raised.description;
+}
+
+TEST(OpenConnection, ADriverThatIsNotInstalledIsToldAndAPasswordNever) {
+  const DbRaised raised = DbRaisedBy([] {
+    OpenConnection("Driver={Nessun driver};Data Source=SRV;User ID=sa;Password=segreto", ".");
+  });
+  EXPECT_EQ(raised.number, kDatabaseNumber);
+  EXPECT_EQ(raised.description.find("Errore del database: impossibile aprire \"SRV\": il driver "
+                                    "ODBC non è installato o non si può caricare"),
+            0U)
+      << raised.description;
+  EXPECT_EQ(raised.description.find("segreto"), std::string::npos);
+}
+
+TEST(OpenConnection, ANamedDriverReachesTheFileToo) {
+  const DbTemporaryFolder folder;
+  CreateSqliteDatabase(folder / "x.db", false);
+  EXPECT_TRUE(
+      Reaches("Provider=SQLNCLI.1;Initial Catalog=Zelmo32;Driver={SQLite3};"
+              "Data Source=file:x.db",
+              folder.path()));
+  EXPECT_TRUE(Reaches("Provider=SQLNCLI.1;Initial Catalog=Zelmo32;Driver=SQLite3;Database=x.db",
+                      folder.path()));
+}
+
+TEST(OpenConnection, AnAbsentFileBehindANamedDriverIsNamedAndNotMade) {
+  const DbTemporaryFolder folder;
+  const DbRaised raised = DbRaisedBy(
+      [&] { OpenConnection("Driver={SQLite3};Data Source=file:manca.db", folder.path()); });
+  EXPECT_EQ(raised.number, kDatabaseNumber);
+  EXPECT_NE(raised.description.find((folder / "manca.db").string()), std::string::npos)
+      << raised.description;
+  EXPECT_FALSE(std::filesystem::exists(folder / "manca.db"));
 }
 
 TEST(OpenConnection, AnAbsentFileIsNamed) {

@@ -320,18 +320,23 @@ TEST_P(RecordContract, ATextTooLongForItsColumnIsAnErrorAndNothingIsWritten) {
 }
 
 TEST_P(RecordContract, AnAgendaEntryIsFoundByBothDateForms) {
+  const bool unicode = GetParam().unicodeLetterCase;
+  const std::string scadenza =
+      std::string("Memoria \"conclusionale\" perch") + (unicode ? "é" : "e'");
+  const std::string looked_for =
+      std::string("\"MEMORIA \"\"CONCLUSIONALE\"\" PERCH") + (unicode ? "É\"" : "E'\"");
   DbRecord record;
   record.Open(database(), "SELECT * FROM SCADENZE WHERE ID_Scadenza = 0", kForChanges);
   record.recordset().AddNew();
-  record.Set("Scadenza", Text("Memoria \"conclusionale\" perché"));
+  record.Set("Scadenza", scadenza);
   record.Set("Data_End", Text("10/06/2024"));
   record.Set("Codice_Pra", Whole(12));
   record.Set("Parti", Text("ROSSI \\ D'AMICO"));
   record.Set("IsOrdex", true);
   record.recordset().Update();
   EXPECT_EQ(Rows("SELECT * from SCADENZE where  Data_End =#06/10/2024# and Codice_Pra = 12 and "
-                 "Parti = \"ROSSI \\ D'AMICO\" and ucase(Scadenza) = "
-                 "\"MEMORIA \"\"CONCLUSIONALE\"\" PERCHÉ\"")
+                 "Parti = \"ROSSI \\ D'AMICO\" and ucase(Scadenza) = " +
+                 looked_for)
                 .size(),
             1U);
   EXPECT_EQ(Rows("select * from SCADENZE where  Data_End =" + FormattaDataSql("10/06/2024") +

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "connection_contract.h"
+#include "store/db/declared_type.h"
 #include "store/db/sqlite_catalog.h"
 #include "store/db/sqlite_file.h"
 #include "support/db_office.h"

@@ -14,7 +14,7 @@ class SqliteDatabase final : public ContractDatabase {
   DbTemporaryFolder folder_;
 };
 
-const Driver kSqlite = {"Sqlite", [] { return std::make_unique<SqliteDatabase>(); }};
+const Driver kSqlite = {"Sqlite", [] { return std::make_unique<SqliteDatabase>(); }, true};
 
 INSTANTIATE_TEST_SUITE_P(Engine, ConnectionContract, testing::Values(kSqlite), DriverName);
 INSTANTIATE_TEST_SUITE_P(Engine, RecordContract, testing::Values(kSqlite), DriverName);

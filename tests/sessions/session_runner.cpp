@@ -49,9 +49,14 @@ std::string ToWindows1252(std::string_view text) {
 class Runner {
  public:
   Runner(const SessionSetup& setup, const FailureReport& report)
-      : report_(report), workplace_(setup.source) {
+      : report_(report), workplace_(setup.source, setup.driver) {
     task_.program = setup.program;
     task_.timeLimit = setup.timeLimit;
+  }
+
+  Content Tables() const {
+    if (!IsDatabase()) return {};
+    return ContentOf(workplace_.database());
   }
 
   void Run(const std::vector<Step>& steps) {
@@ -235,11 +240,7 @@ class Runner {
   }
 
   void Start(const Step& step) {
-    if (!IsDatabase()) {
-      before_.clear();
-    } else {
-      before_ = ContentOf(workplace_.database());
-    }
+    before_ = Tables();
     nextEvent_ = 0;
     outcome_ = RunConsole(task_, workplace_);
     if (!outcome_.fault.empty()) Fail(step, outcome_.fault);
@@ -377,9 +378,11 @@ class Runner {
 
 }  // namespace
 
-void RunSession(const std::vector<Step>& steps, const SessionSetup& setup,
-                const FailureReport& report) {
-  Runner(setup, report).Run(steps);
+Content RunSession(const std::vector<Step>& steps, const SessionSetup& setup,
+                   const FailureReport& report) {
+  Runner runner(setup, report);
+  runner.Run(steps);
+  return runner.Tables();
 }
 
 }  // namespace ordex::sessions

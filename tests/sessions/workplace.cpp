@@ -17,13 +17,16 @@ constexpr std::string_view kSettings =
     "[Shared]\n"
     "Id_Utente=7\n";
 
+constexpr std::string_view kFileSource = "Data Source=file:";
+
 bool IsMapping(const std::string& name) {
   return name == "MapCampi.txt" || name == "MapDelimitatori.txt" || name == "MapRestr.txt";
 }
 
 }  // namespace
 
-Workplace::Workplace(fs::path source) : source_(std::move(source)) {
+Workplace::Workplace(fs::path source, std::string driver)
+    : source_(std::move(source)), driver_(std::move(driver)) {
   fs::create_directory(office());
   fs::create_directory_symlink(source_ / "samples", folder() / "samples");
   for (const auto& entry : fs::directory_iterator(source_ / "mapping")) {
@@ -53,8 +56,20 @@ void Workplace::TakePage(const std::string& name) {
   if (name != "none") page_ = ReadFile(source_ / name);
 }
 
+// What stands in front of a database file that is reached through a driver; it is ours and not the
+// session's.
+std::string Workplace::Through() const {
+  return driver_.empty() ? std::string() : "Driver={" + driver_ + "};";
+}
+
 void Workplace::WriteSettings(const std::string& text) const {
-  WriteFile(settings(), text);
+  std::string written = text;
+  const std::string through = Through();
+  for (std::size_t at = written.find(kFileSource); !through.empty() && at != std::string::npos;
+       at = written.find(kFileSource, at + through.size() + kFileSource.size())) {
+    written.insert(at, through);
+  }
+  WriteFile(settings(), written);
 }
 
 void Workplace::RemoveSettings() const {
@@ -72,7 +87,12 @@ std::optional<std::string> Workplace::Setting(std::string_view section,
     const std::size_t end = rest.find('\n');
     const std::string_view line = rest.substr(0, end);
     if (line.starts_with('[')) inside = line == heading;
-    if (inside && line.starts_with(beginning)) return std::string(line.substr(beginning.size()));
+    if (inside && line.starts_with(beginning)) {
+      std::string value(line.substr(beginning.size()));
+      const std::string through = Through();
+      const std::size_t at = through.empty() ? std::string::npos : value.find(through);
+      return at == std::string::npos ? value : value.erase(at, through.size());
+    }
     rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
   }
   return std::nullopt;

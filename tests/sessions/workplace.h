@@ -20,8 +20,9 @@ namespace ordex::sessions {
 class Workplace {
  public:
   // `source` is the root of the source tree. Makes the mapping files as shipped, settings that name
-  // the database, and the sample office.
-  explicit Workplace(std::filesystem::path source);
+  // the database, and the sample office. With `driver` every settings file that names a database
+  // file reaches it through the ODBC driver of that name.
+  explicit Workplace(std::filesystem::path source, std::string driver = {});
 
   const std::filesystem::path& folder() const { return folder_.path(); }
   std::filesystem::path office() const { return folder() / "office"; }
@@ -65,8 +66,10 @@ class Workplace {
 
  private:
   void OpenToAll() const;
+  std::string Through() const;
 
   std::filesystem::path source_;
+  std::string driver_;
   TemporaryFolder folder_;
   std::string databaseName_ = "office.db";
   std::optional<std::string> page_;

@@ -39,14 +39,14 @@ bool BeginsWithQuote(std::string_view text) {
 }
 
 // Takes the value off the front of `text`, together with the semicolon that ends it.
-std::string TakeValue(std::string_view& text) {
+void TakeValue(std::string_view& text, ConnectionKey& key) {
   text = TrimLeft(text);
   std::optional<QuotedValue> quoted;
   if (BeginsWithQuote(text)) quoted = ReadQuoted(text);
   const std::size_t end = quoted ? quoted->end : text.find(';');
-  std::string value = quoted ? std::move(quoted->value) : std::string(Trim(text.substr(0, end)));
+  key.quoted = quoted.has_value();
+  key.value = quoted ? std::move(quoted->value) : std::string(Trim(text.substr(0, end)));
   text.remove_prefix(end >= text.size() ? text.size() : end + 1);
-  return value;
 }
 
 }  // namespace
@@ -54,11 +54,11 @@ std::string TakeValue(std::string_view& text) {
 ConnectionString::ConnectionString(std::string_view text) {
   while (!text.empty()) {
     const std::size_t end = text.find_first_of("=;");
-    std::string name(Trim(text.substr(0, end)));
+    ConnectionKey key{std::string(Trim(text.substr(0, end))), {}};
     const bool has_value = end != std::string_view::npos && text[end] == '=';
     text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-    std::string value = has_value ? TakeValue(text) : std::string();
-    if (!name.empty()) keys_.push_back({std::move(name), std::move(value)});
+    if (has_value) TakeValue(text, key);
+    if (!key.name.empty()) keys_.push_back(std::move(key));
   }
 }
 

@@ -10,6 +10,7 @@ namespace ordex {
 struct ConnectionKey {
   std::string name;   // as written, trimmed
   std::string value;  // without its quotes or braces
+  bool quoted = false;
 };
 
 // "Provider=…;Integrated Security=SSPI;…" in order. Values may stand between apostrophes, double

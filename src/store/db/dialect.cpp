@@ -10,6 +10,8 @@
 #include "base/error.h"
 #include "base/text.h"
 #include "store/db/ascii.h"
+#include "store/db/sql_tokens.h"
+#include "store/db/statement_tables.h"
 
 namespace ordex {
 namespace {
@@ -150,18 +152,6 @@ class Tokenizer {
 
 // --- one statement, and a SELECT ----------------------------------------------------------------
 
-bool IsSilent(const Token& token) {
-  return token.kind == TokenKind::kBlank || token.kind == TokenKind::kComment;
-}
-
-bool IsWord(const Token& token, std::string_view upperCase) {
-  return token.kind == TokenKind::kWord && EqualAscii(token.text, upperCase);
-}
-
-bool IsSymbol(const Token& token, char symbol) {
-  return token.kind == TokenKind::kSymbol && token.text.front() == symbol;
-}
-
 // Words that begin a statement. SQL Server needs no semicolon in front of them, and none of them
 // can be a name unless it is quoted. In alphabetical order.
 constexpr std::array<std::string_view, 38> kStatementWords = {
@@ -215,10 +205,6 @@ RunTimeError SecondStatement() {
 
 // --- rewriting ----------------------------------------------------------------------------------
 
-std::string_view Inside(std::string_view quoted) {
-  return quoted.substr(1, quoted.size() - 2);
-}
-
 void AppendLiteral(std::string& out, std::string_view text) {
   out.push_back('\'');
   for (const char character : text) {
@@ -227,84 +213,6 @@ void AppendLiteral(std::string& out, std::string_view text) {
   }
   out.push_back('\'');
 }
-
-std::string_view Name(const Token& token) {
-  return token.kind == TokenKind::kBracketed ? Inside(token.text) : token.text;
-}
-
-bool IsName(const Token& token) {
-  return token.kind == TokenKind::kWord || token.kind == TokenKind::kBracketed;
-}
-
-template <std::size_t N>
-bool IsOneOf(const Token& token, const std::array<std::string_view, N>& words) {
-  return std::any_of(words.begin(), words.end(),
-                     [&](std::string_view word) { return IsWord(token, word); });
-}
-
-struct NamedTable {
-  std::string name;
-  std::string alias;
-};
-
-// Finds the tables that a statement names, with the other names that it gives them.
-class TableFinder {
- public:
-  std::vector<NamedTable> Find(const std::vector<Token>& tokens) {
-    for (const Token& token : tokens) {
-      if (IsSilent(token)) continue;
-      if (IsName(token)) {
-        TakeName(token);
-      } else {
-        TakeOther(token);
-      }
-    }
-    return std::move(tables_);
-  }
-
- private:
-  enum class Expected { kNothing, kTable, kAlias };
-
-  void TakeName(const Token& token) {
-    static constexpr std::array<std::string_view, 4> kBeforeTable = {"FROM", "JOIN", "UPDATE",
-                                                                     "INTO"};
-    static constexpr std::array<std::string_view, 8> kEnd = {"WHERE",  "ON",    "GROUP",  "ORDER",
-                                                             "HAVING", "UNION", "SELECT", "SET"};
-    static constexpr std::array<std::string_view, 6> kJoins = {"INNER", "LEFT",  "RIGHT",
-                                                               "FULL",  "CROSS", "OUTER"};
-    if (IsOneOf(token, kBeforeTable)) {
-      expected_ = Expected::kTable;
-      in_list_ = true;
-    } else if (IsOneOf(token, kEnd)) {
-      expected_ = Expected::kNothing;
-      in_list_ = false;
-    } else if (IsOneOf(token, kJoins)) {
-      expected_ = Expected::kNothing;
-    } else if (expected_ == Expected::kTable) {
-      tables_.push_back({std::string(Name(token)), {}});
-      expected_ = Expected::kAlias;
-    } else if (expected_ == Expected::kAlias && !IsWord(token, "AS")) {
-      tables_.back().alias = Name(token);
-      expected_ = Expected::kNothing;
-    }
-  }
-
-  void TakeOther(const Token& token) {
-    if (IsSymbol(token, ',')) {
-      expected_ = in_list_ ? Expected::kTable : Expected::kNothing;
-    } else if (IsSymbol(token, '.') && expected_ == Expected::kAlias) {
-      // What stood before was the schema.
-      tables_.pop_back();
-      expected_ = Expected::kTable;
-    } else if (!IsSymbol(token, '(')) {
-      expected_ = Expected::kNothing;
-    }
-  }
-
-  std::vector<NamedTable> tables_;
-  Expected expected_ = Expected::kNothing;
-  bool in_list_ = false;
-};
 
 class SqliteRewriter {
  public:
@@ -320,7 +228,7 @@ class SqliteRewriter {
   }
 
  private:
-  static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+  static constexpr std::size_t kNone = kNoToken;
 
   // Writes the token at `i`, perhaps with some that follow; the place of the last one written.
   std::size_t Take(std::size_t i) {
@@ -410,7 +318,7 @@ class SqliteRewriter {
 
   // The tables that a column with that qualifier may belong to; all where there is none.
   std::vector<std::string> Candidates(std::string_view qualifier) {
-    if (!tables_) tables_ = TableFinder().Find(tokens_);
+    if (!tables_) tables_ = FindTables(tokens_);
     std::vector<std::string> names;
     for (const NamedTable& table : *tables_) {
       if (qualifier.empty() || EqualAscii(qualifier, table.name) ||
@@ -429,19 +337,8 @@ class SqliteRewriter {
     AppendLiteral(out_, FormatIso(*date));
   }
 
-  std::size_t Next(std::size_t i) const {
-    while (++i < tokens_.size()) {
-      if (!IsSilent(tokens_[i])) return i;
-    }
-    return kNone;
-  }
-
-  std::size_t Previous(std::size_t i) const {
-    while (i-- > 0) {
-      if (!IsSilent(tokens_[i])) return i;
-    }
-    return kNone;
-  }
+  std::size_t Next(std::size_t i) const { return NextToken(tokens_, i); }
+  std::size_t Previous(std::size_t i) const { return PreviousToken(tokens_, i); }
 
   const std::vector<Token>& tokens_;
   TableCatalog& catalog_;

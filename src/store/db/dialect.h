@@ -45,4 +45,12 @@ void RequireOneSelect(const std::vector<Token>& tokens);
 // Errors (database): a date expression whose text is no date.
 std::string RewriteForSqlite(const std::vector<Token>& tokens, TableCatalog& catalog);
 
+// What SQL Server understands. It takes the date conversions and 'TRUE' against a bit column as the
+// routines write them. Errors (database): a date between number signs that is none.
+std::string RewriteForSqlServer(const std::vector<Token>& tokens);
+
+// `text` as a T-SQL literal: between apostrophes, doubled inside, and with N in front where it
+// holds a character that a code page might not have.
+std::string SqlServerLiteral(std::string_view text);
+
 }  // namespace ordex

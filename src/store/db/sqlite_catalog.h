@@ -1,7 +1,6 @@
 // What the embedded engine knows of its tables.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -11,16 +10,6 @@
 #include "store/db/sqlite_statement.h"
 
 namespace ordex {
-
-// What a declared type such as "NVARCHAR(200)" says of a column. The engine itself keeps to it only
-// loosely.
-struct DeclaredType {
-  ColumnType type = ColumnType::kText;
-  std::size_t size = 0;
-};
-// nullopt where there is no declared type (`declared` is null or says nothing known): then each
-// value is of the type that it is stored with.
-std::optional<DeclaredType> ParseDeclaredType(const char* declared);
 
 // Holds the connection's handle, so that a query may outlive the connection object.
 class SqliteCatalog final : public TableCatalog {

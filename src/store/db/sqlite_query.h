@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "store/db/connection.h"
+#include "store/db/declared_type.h"
 #include "store/db/sqlite_catalog.h"
 #include "store/db/sqlite_statement.h"
 

@@ -20,6 +20,7 @@
 #include "ui/common/settings_store.h"
 #include "ui/console/check.h"
 #include "ui/console/command_source.h"
+#include "ui/console/database_verbs.h"
 #include "ui/console/explain.h"
 #include "ui/console/json_events.h"
 #include "ui/console/session.h"
@@ -119,6 +120,17 @@ int CreateDatabase(const Options& options) {
   });
 }
 
+int PrintScript() {
+  PrintDatabaseScript();
+  return 0;
+}
+
+int RunDatabaseTest(const Options& options, const fs::path& executable) {
+  return OrWrongCall([&] {
+    return TestDatabase({ProgramFolder(options.dir, executable), options.settings, options.json});
+  });
+}
+
 int RunCheck(const Options& options, const fs::path& executable) {
   return OrWrongCall([&] {
     return CheckMappingFiles({ProgramFolder(options.dir, executable), PathOf(options.settings),
@@ -151,11 +163,17 @@ int Main(std::vector<std::string> arguments, const fs::path& executable) {
   // The same call means the same everywhere; the subcommands take this over.
   app.allow_windows_style_options(false);
   Declare(app, options);
-  CLI::App* db = app.add_subcommand("db", "il database incorporato");
+  CLI::App* db = app.add_subcommand("db", "il database");
   db->require_subcommand(1);
-  CLI::App* create = db->add_subcommand("create", "crea un nuovo database vuoto");
+  CLI::App* create = db->add_subcommand("create", "crea un nuovo database incorporato, vuoto");
   create->add_option("FILE", options.newDatabase, "il file da creare")->required();
   create->add_flag("--sample", options.sample, "con le pratiche e le persone di esempio");
+  CLI::App* script = db->add_subcommand(
+      "script", "mostra le tabelle di un database di prova per SQL Server, in T-SQL");
+  CLI::App* test = db->add_subcommand("test", "prova il collegamento e cerca ciò che manca");
+  test->add_option("--dir", options.dir, "cartella del programma");
+  test->add_option("--settings", options.settings, "file delle impostazioni dell'utente");
+  test->add_flag("--json", options.json, "un oggetto JSON per riga");
   CLI::App* check = app.add_subcommand("check", "controlla i file di mappatura");
   check->add_option("--dir", options.dir, "cartella del programma");
   check->add_option("--pages", options.pages, "cartella di pagine da provare");
@@ -170,6 +188,8 @@ int Main(std::vector<std::string> arguments, const fs::path& executable) {
     std::reverse(arguments.begin(), arguments.end());
     app.parse(arguments);
     if (create->parsed()) return CreateDatabase(options);
+    if (script->parsed()) return PrintScript();
+    if (test->parsed()) return RunDatabaseTest(options, executable);
     if (check->parsed()) return RunCheck(options, executable);
     if (explain->parsed()) return RunExplain(options, executable);
     return RunSession(options, executable, streams.in());

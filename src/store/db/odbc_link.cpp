@@ -1,0 +1,89 @@
+#include "store/db/odbc_link.h"
+
+#include <array>
+#include <cstdint>
+
+#include "base/text.h"
+#include "store/db/odbc_text.h"
+
+namespace ordex {
+namespace {
+
+RunTimeError NoOdbc() {
+  return MakeError(ErrorNumber::kDatabase, "ODBC non funziona su questo computer");
+}
+
+// A driver that does not know the attribute goes on without it.
+void SetAttribute(SQLHDBC connection, SQLINTEGER attribute, SQLULEN value) {
+  // NOLINTNEXTLINE: the interface takes numbers as pointers
+  SQLSetConnectAttrW(connection, attribute, reinterpret_cast<SQLPOINTER>(std::uintptr_t{value}), 0);
+}
+
+OdbcHandle<SQL_HANDLE_ENV> MakeEnvironment() {
+  OdbcHandle<SQL_HANDLE_ENV> environment(nullptr);
+  // NOLINTNEXTLINE: the interface takes numbers as pointers
+  const auto version = reinterpret_cast<SQLPOINTER>(std::uintptr_t{SQL_OV_ODBC3});
+  if (environment.get() == nullptr ||
+      !Succeeded(SQLSetEnvAttr(environment.get(), SQL_ATTR_ODBC_VERSION, version, 0))) {
+    throw NoOdbc();
+  }
+  return environment;
+}
+
+}  // namespace
+
+std::string WithoutPassword(std::string text, std::string_view password, std::string_view instead) {
+  if (password.empty() || !Contains(text, password)) return text;
+  return std::string(instead);
+}
+
+OdbcLink::OdbcLink(const OdbcTarget& target)
+    : environment_(MakeEnvironment()), connection_(environment_.get()), password_(target.password) {
+  if (connection_.get() == nullptr) throw NoOdbc();
+  Connect(target);
+  engine_ = MakeOdbcEngine(DbmsName());
+}
+
+OdbcLink::~OdbcLink() {
+  if (connected_) SQLDisconnect(connection_.get());
+}
+
+void OdbcLink::Connect(const OdbcTarget& target) {
+  SetAttribute(get(), SQL_ATTR_LOGIN_TIMEOUT, target.loginTimeOut);
+  WideText text = ToWide(target.connectionString);
+  const SQLRETURN code =
+      SQLDriverConnectW(get(), nullptr, text.data(), static_cast<SQLSMALLINT>(text.size()), nullptr,
+                        0, nullptr, SQL_DRIVER_NOPROMPT);
+  if (!Succeeded(code)) {
+    const std::string why = ConnectErrorText(DiagnosticsOf(SQL_HANDLE_DBC, get()));
+    throw MakeError(ErrorNumber::kDatabase,
+                    "impossibile aprire \"" + target.shown + "\": " +
+                        WithoutPassword(why, password_, "il collegamento è stato rifiutato"));
+  }
+  connected_ = true;
+}
+
+std::string OdbcLink::DbmsName() const {
+  std::array<SQLWCHAR, 256> name{};
+  SQLSMALLINT bytes = 0;
+  const auto size = static_cast<SQLSMALLINT>(name.size() * sizeof(SQLWCHAR));
+  if (!Succeeded(SQLGetInfoW(get(), SQL_DBMS_NAME, name.data(), size, &bytes)) || bytes < 0) {
+    return {};
+  }
+  const std::size_t length = static_cast<std::size_t>(bytes) / sizeof(SQLWCHAR);
+  return FromWide(name.data(), std::min(length, name.size()));
+}
+
+RunTimeError OdbcLink::Error(SQLHANDLE statement) {
+  return Error(DiagnosticsOf(SQL_HANDLE_STMT, statement));
+}
+
+RunTimeError OdbcLink::Error(std::span<const OdbcDiagnostic> diagnostics) {
+  const bool ended = LostConnection(diagnostics) || EndedTransaction(diagnostics);
+  trouble_ = ended || trouble_ == Trouble::kEnded ? Trouble::kEnded : Trouble::kPerhaps;
+  return MakeError(ErrorNumber::kDatabase,
+                   WithoutPassword(engine().ErrorText(diagnostics), password_,
+                                   "il database ha rifiutato l'istruzione"));
+}
+
+}  // namespace ordex
