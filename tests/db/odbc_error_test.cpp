@@ -90,6 +90,7 @@ TEST(OdbcDiagnostics, WhatEndsATransactionIsRecognised) {
   EXPECT_FALSE(EndedTransaction(Records{{"HY000", 1222, "lock time out"}}));
   EXPECT_TRUE(LostConnection(Records{{"08S01", 0, "x"}}));
   EXPECT_TRUE(LostConnection(Records{{"HY000", 20047, "DBPROCESS is dead"}}));
+  EXPECT_TRUE(LostConnection(Records{{"01000", 20017, "Unexpected EOF from the server"}}));
   EXPECT_FALSE(LostConnection(Records{{"42000", 207, "x"}}));
 }
 
@@ -109,10 +110,12 @@ TEST(ConnectErrorText, EveryKindOfFailureSaysWhatToDo) {
             "sia in funzione (Named Pipes Provider)");
 }
 
-TEST(WithoutPassword, ATextThatHoldsThePasswordIsNotTold) {
-  EXPECT_EQ(WithoutPassword("PWD=segreto;", "segreto", "rifiutato"), "rifiutato");
-  EXPECT_EQ(WithoutPassword("Login failed", "segreto", "rifiutato"), "Login failed");
-  EXPECT_EQ(WithoutPassword("Login failed", "", "rifiutato"), "Login failed");
+TEST(WithoutPassword, WordsThatHoldThePasswordAreNotToldAndTheRestIs) {
+  const Records records = {{"28000", 18456, "PWD=segreto;"}, {"42S02", 208, "Pratica"}};
+  EXPECT_EQ(ConnectErrorText(WithoutPassword(records, "segreto")),
+            "il server ha rifiutato l'accesso; controllare l'utente e la password, o i diritti "
+            "dell'utente di Windows (Pratica)");
+  EXPECT_EQ(WithoutPassword(records, "").front().words, "PWD=segreto;");
 }
 
 }  // namespace

@@ -103,8 +103,8 @@ constexpr std::array<int, 3> kFull = {1105, 9002, 1101};
 constexpr std::array<int, 4> kConversion = {241, 242, 245, 295};
 constexpr std::array<int, 5> kLogin = {18456, 18452, 18488, 18486, 18470};
 constexpr std::array<int, 2> kDatabaseName = {4060, 4064};
-// FreeTDS: read or write failed, the connection is dead.
-constexpr std::array<int, 4> kLost = {20004, 20006, 20017, 20047};
+// FreeTDS: read or write failed, the connection is dead. It may tell so by a warning alone.
+constexpr std::array<int, 5> kLost = {20004, 20006, 20017, 20020, 20047};
 
 }  // namespace
 
@@ -126,7 +126,10 @@ bool HoldsError(std::span<const OdbcDiagnostic> diagnostics) {
 }
 
 bool LostConnection(std::span<const OdbcDiagnostic> diagnostics) {
-  return HasState(diagnostics, "08") || HasNative(diagnostics, kLost);
+  return HasState(diagnostics, "08") ||
+         std::any_of(diagnostics.begin(), diagnostics.end(), [](const OdbcDiagnostic& each) {
+           return std::find(kLost.begin(), kLost.end(), each.native) != kLost.end();
+         });
 }
 
 bool EndedTransaction(std::span<const OdbcDiagnostic> diagnostics) {

@@ -32,9 +32,13 @@ OdbcHandle<SQL_HANDLE_ENV> MakeEnvironment() {
 
 }  // namespace
 
-std::string WithoutPassword(std::string text, std::string_view password, std::string_view instead) {
-  if (password.empty() || !Contains(text, password)) return text;
-  return std::string(instead);
+std::vector<OdbcDiagnostic> WithoutPassword(std::span<const OdbcDiagnostic> diagnostics,
+                                            std::string_view password) {
+  std::vector<OdbcDiagnostic> kept(diagnostics.begin(), diagnostics.end());
+  for (OdbcDiagnostic& each : kept) {
+    if (!password.empty() && Contains(each.words, password)) each.words.clear();
+  }
+  return kept;
 }
 
 OdbcLink::OdbcLink(const OdbcTarget& target)
@@ -55,10 +59,10 @@ void OdbcLink::Connect(const OdbcTarget& target) {
       SQLDriverConnectW(get(), nullptr, text.data(), static_cast<SQLSMALLINT>(text.size()), nullptr,
                         0, nullptr, SQL_DRIVER_NOPROMPT);
   if (!Succeeded(code)) {
-    const std::string why = ConnectErrorText(DiagnosticsOf(SQL_HANDLE_DBC, get()));
+    const std::vector<OdbcDiagnostic> told =
+        WithoutPassword(DiagnosticsOf(SQL_HANDLE_DBC, get()), password_);
     throw MakeError(ErrorNumber::kDatabase,
-                    "impossibile aprire \"" + target.shown + "\": " +
-                        WithoutPassword(why, password_, "il collegamento è stato rifiutato"));
+                    "impossibile aprire \"" + target.shown + "\": " + ConnectErrorText(told));
   }
   connected_ = true;
 }
@@ -82,8 +86,7 @@ RunTimeError OdbcLink::Error(std::span<const OdbcDiagnostic> diagnostics) {
   const bool ended = LostConnection(diagnostics) || EndedTransaction(diagnostics);
   trouble_ = ended || trouble_ == Trouble::kEnded ? Trouble::kEnded : Trouble::kPerhaps;
   return MakeError(ErrorNumber::kDatabase,
-                   WithoutPassword(engine().ErrorText(diagnostics), password_,
-                                   "il database ha rifiutato l'istruzione"));
+                   engine().ErrorText(WithoutPassword(diagnostics, password_)));
 }
 
 }  // namespace ordex

@@ -53,8 +53,9 @@ class OdbcLink {
   Trouble trouble_ = Trouble::kNone;
 };
 
-// `text` where it does not hold the password, else `instead`: a driver may quote the string that it
-// was given.
-std::string WithoutPassword(std::string text, std::string_view password, std::string_view instead);
+// The records without the words that hold the password: a driver may quote the string that it was
+// given.
+std::vector<OdbcDiagnostic> WithoutPassword(std::span<const OdbcDiagnostic> diagnostics,
+                                            std::string_view password);
 
 }  // namespace ordex

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <optional>
 
+#include "base/path_text.h"
 #include "base/text.h"
 #include "store/db/ascii.h"
 
@@ -215,22 +216,13 @@ void AddFreeTds(const ServerSettings& settings, Builder& builder) {
   if (!has_charset) builder.Add("ClientCharset", "UTF-8");
 }
 
-fs::path FromUtf8(std::string_view text) {
-  return {std::u8string(text.begin(), text.end())};
-}
-
-std::string ToUtf8(const fs::path& path) {
-  const std::u8string text = path.u8string();
-  return {text.begin(), text.end()};
-}
-
 // "file:PATH" of the data source, else the database's name.
 fs::path DatabaseFile(const ServerSettings& settings, const fs::path& programFolder) {
   constexpr std::string_view kFile = "file:";
   std::string_view file = settings.source;
   if (EqualAscii(Left(file, kFile.size()), kFile)) file.remove_prefix(kFile.size());
   if (Trim(file).empty()) file = settings.database;
-  return programFolder / FromUtf8(Trim(file));
+  return programFolder / PathOf(Trim(file));
 }
 
 unsigned LoginTimeOut(const ServerSettings& settings) {
@@ -267,7 +259,7 @@ OdbcTarget TranslateToOdbc(const ServerSettings& settings, std::string_view driv
       break;
     case Words::kSqlite:
       target.file = DatabaseFile(settings, programFolder);
-      target.shown = ToUtf8(target.file);
+      target.shown = TextOf(target.file);
       builder.Add("Database", target.shown);
       // An absent file is an error, and a writer waits as long as without ODBC.
       builder.Add("NoCreat", "1");
