@@ -171,6 +171,11 @@ TEST(SqlServerStatement, Transactions) {
             "SELECT CASE WHEN @@TRANCOUNT = 0 THEN 0 ELSE CAST(XACT_STATE() AS INT) END");
 }
 
+TEST(SqlServerStatement, ATextThroughTheCodePageAndBack) {
+  EXPECT_EQ(MakeSqlServerEngine()->CodePageSql(),
+            "SELECT CAST(CAST(? AS VARCHAR(MAX)) AS NVARCHAR(MAX))");
+}
+
 TEST(SqlServerStatement, TheIdentityColumnOfATable) {
   EXPECT_EQ(MakeSqlServerEngine()->IdentitySql("Pratica"),
             "SELECT name FROM sys.columns WHERE object_id = OBJECT_ID('[Pratica]') AND "

@@ -53,5 +53,16 @@ TEST(OdbcText, AnUnpairedSurrogateBecomesAReplacement) {
   EXPECT_EQ(Narrow(Units({0xDE00, 'a'})), "\xEF\xBF\xBD\x61");
 }
 
+TEST(FitsWindows1252, ItalianTextsAndTypographicSignsDo) {
+  EXPECT_TRUE(FitsWindows1252(""));
+  EXPECT_TRUE(FitsWindows1252("Perché l'attività è così, € 5 – “sì” ÿ"));
+}
+
+TEST(FitsWindows1252, LettersOfEasternEuropeAndOtherScriptsDoNot) {
+  for (const char* text : {"ȘTEFĂNESCU", "Łódź", "日本", "😀", "\xC2\x85"}) {
+    EXPECT_FALSE(FitsWindows1252(text)) << text;
+  }
+}
+
 }  // namespace
 }  // namespace ordex

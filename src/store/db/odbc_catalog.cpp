@@ -1,6 +1,7 @@
 #include "store/db/odbc_catalog.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <optional>
 
 #include "base/error.h"
@@ -37,12 +38,16 @@ OdbcResultColumn TypeNamed(const std::string& typeName, const OdbcResultColumn& 
   return type;
 }
 
+bool IsNamed(std::string_view typeName, std::initializer_list<std::string_view> names) {
+  const std::string lower = LowerAscii(typeName);
+  return std::any_of(names.begin(), names.end(),
+                     [&](std::string_view name) { return lower.starts_with(name); });
+}
+
 bool HoldsName(const std::vector<std::string>& names, std::string_view wanted) {
   return std::any_of(names.begin(), names.end(),
                      [&](const std::string& name) { return EqualAscii(name, wanted); });
 }
-
-const std::vector<ColumnInfo> kNoColumns;
 
 }  // namespace
 
@@ -54,7 +59,7 @@ OdbcColumnType OdbcCatalog::TypeOf(const std::string& table, std::string_view co
   const Table& known = Find(table);
   for (std::size_t i = 0; i < known.columns.size(); ++i) {
     if (!EqualAscii(known.columns[i].name, column)) continue;
-    return {known.columns[i].type, known.toTheMinute[i]};
+    return known.types[i];
   }
   return {};
 }
@@ -95,7 +100,8 @@ OdbcCatalog::Table OdbcCatalog::Ask(const std::string& table) {
     found.columns.push_back({each.column, each.type.type, each.type.size, table,
                              is_identity(each) || HoldsName(identity, each.column),
                              is_only_key(each)});
-    found.toTheMinute.push_back(LowerAscii(each.typeName).starts_with("smalldatetime"));
+    found.types.push_back({each.type.type, IsNamed(each.typeName, {"smalldatetime"}),
+                           IsNamed(each.typeName, {"varchar", "char", "text"})});
   }
   return found;
 }

@@ -29,7 +29,7 @@ class OdbcCatalog final : public TableCatalog {
  private:
   struct Table {
     std::vector<ColumnInfo> columns;
-    std::vector<bool> toTheMinute;  // for each column
+    std::vector<OdbcColumnType> types;  // of each column
   };
   // A row of SQLColumns.
   struct Reported;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/error.h"
+#include "base/text.h"
 #include "store/db/dialect.h"
 #include "store/db/odbc_catalog.h"
 #include "store/db/odbc_link.h"
@@ -28,6 +29,8 @@ RunTimeError NoIdentity(const std::string& table) {
                    "tabella \"" +
                        table + "\"");
 }
+
+constexpr std::size_t kShown = 60;  // characters of a text in a message
 
 class OdbcConnection final : public Connection {
  public:
@@ -118,7 +121,24 @@ class OdbcConnection final : public Connection {
 
   void Bind(OdbcStatement& statement, std::size_t place, const std::string& table,
             const NamedValue& value) {
-    statement.Bind(place + 1, value.second, catalog_->TypeOf(table, value.first));
+    const OdbcColumnType type = catalog_->TypeOf(table, value.first);
+    const auto* text = std::get_if<std::string>(&value.second);
+    if (type.codePage && text != nullptr) RequireHeld(value.first, *text);
+    statement.Bind(place + 1, value.second, type);
+  }
+
+  // The server would put question marks or letters without accents, in silence, for what the code
+  // page of a column lacks. It is asked only about letters that a server of Western Europe may
+  // lack.
+  void RequireHeld(const std::string& column, const std::string& text) {
+    const std::string sql(engine().CodePageSql());
+    if (sql.empty() || FitsWindows1252(text)) return;
+    const Value sent = text;
+    const auto rows = PrepareNative(sql, {&sent, 1})->FetchAll();
+    if (rows.size() == 1 && ToText(rows[0][0]) == text) return;
+    throw MakeError(ErrorNumber::kDatabase, "il testo \"" + std::string(Left(text, kShown)) +
+                                                "\" ha lettere che la colonna \"" + column +
+                                                "\" non può contenere (non è di tipo NVARCHAR)");
   }
 
   // The last result that is one number: a trigger may give results of its own before it.

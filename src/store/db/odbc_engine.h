@@ -61,6 +61,9 @@ class OdbcEngine {
   // The engine knows texts and numbers alone: dates travel as texts "YYYY-MM-DD HH:MM:SS", bits as
   // 0 and 1, as it stores them.
   virtual bool HoldsTextsAndNumbers() const = 0;
+  // A SELECT that sends a text through the code page of the database and back; empty where there is
+  // none.
+  virtual std::string_view CodePageSql() const = 0;
   // Seconds that a statement may take; 0 for no limit.
   virtual SQLULEN QueryTimeOut() const = 0;
 

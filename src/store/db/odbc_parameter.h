@@ -13,6 +13,7 @@ namespace ordex {
 struct OdbcColumnType {
   ColumnType type = ColumnType::kText;
   bool toTheMinute = false;  // a date column without seconds
+  bool codePage = false;     // a text column that holds the characters of one code page alone
 };
 
 struct OdbcParameter {

@@ -43,6 +43,7 @@ class OdbcSqliteEngine final : public OdbcEngine {
   std::string_view DefaultSchemaSql() const override { return {}; }
 
   bool HoldsTextsAndNumbers() const override { return true; }
+  std::string_view CodePageSql() const override { return {}; }
   SQLULEN QueryTimeOut() const override { return 0; }
 
   std::string ErrorText(std::span<const OdbcDiagnostic> diagnostics) const override {

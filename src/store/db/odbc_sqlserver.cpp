@@ -84,6 +84,9 @@ class SqlServerEngine final : public OdbcEngine {
   std::string_view DefaultSchemaSql() const override { return "SELECT SCHEMA_NAME()"; }
 
   bool HoldsTextsAndNumbers() const override { return false; }
+  std::string_view CodePageSql() const override {
+    return "SELECT CAST(CAST(? AS VARCHAR(MAX)) AS NVARCHAR(MAX))";
+  }
   SQLULEN QueryTimeOut() const override { return kQueryTimeOut; }
 
   std::string ErrorText(std::span<const OdbcDiagnostic> diagnostics) const override {

@@ -1,5 +1,7 @@
 #include "store/db/odbc_text.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 
 namespace ordex {
@@ -117,6 +119,19 @@ std::string FromWide(const SQLWCHAR* text, std::size_t length) {
     }
   }
   return out;
+}
+
+bool FitsWindows1252(std::string_view text) {
+  // Those at 80 to 9F; the others have the numbers of Unicode.
+  static constexpr std::array<SQLWCHAR, 27> kOthers = {
+      0x20AC, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030,
+      0x0160, 0x2039, 0x0152, 0x017D, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+      0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x017E, 0x0178};
+  const WideText units = ToWide(text);
+  return std::all_of(units.begin(), units.end(), [](SQLWCHAR unit) {
+    return unit < 0x80 || (unit >= 0xA0 && unit <= 0xFF) ||
+           std::find(kOthers.begin(), kOthers.end(), unit) != kOthers.end();
+  });
 }
 
 }  // namespace ordex

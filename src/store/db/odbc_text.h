@@ -18,4 +18,7 @@ WideText ToWide(std::string_view text);
 // An unpaired surrogate becomes U+FFFD.
 std::string FromWide(const SQLWCHAR* text, std::size_t length);
 
+// True when every character stands in code page 1252, that of the servers of Western Europe.
+bool FitsWindows1252(std::string_view text);
+
 }  // namespace ordex
