@@ -65,6 +65,19 @@ class DeskTest : public ::testing::Test {
   // True once no box or dialog is up.
   bool NoBox();
 
+  std::string Title();
+  wxRect Place();  // of the window on the screen, in pixels of which 96 make an inch
+  int Height();
+  std::string StatusText();
+  // The key of the picture that is seen in the status bar, as its pixels tell; empty for none.
+  std::string StatusPicture();
+  // The caption of the action button, and of its picture: 0 none, 1 update, 4 create.
+  std::string Action();
+  int ActionSymbol();
+  // A row of the list of that name: its cells with " | " between them; counted from 0.
+  std::string Row(const std::string& list, long row);
+  std::vector<std::string> RowsOf(const std::string& list);
+
   // What the controls show differently from the state; nothing where all is well.
   std::vector<std::string> NotAsState();
 
@@ -79,9 +92,15 @@ class DeskTest : public ::testing::Test {
   bool frameGone_ = true;
 };
 
+// A page of samples/, and the text of any file of the source tree.
+std::string Sample(const std::string& name);
+std::string SourceText(const std::string& name);
+
 // The boxes of the program, as the user must see them.
 Box UpdatedBox();
 Box CreatedBox();
 Box NoCaseBox();
+Box PenalBox();
+Box RefusedBox();
 
 }  // namespace ordex::desktop_tests

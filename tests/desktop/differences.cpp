@@ -30,8 +30,8 @@ class Comparison {
 
   std::vector<std::string> Run() {
     Same("caption", frame_.GetTitle().utf8_string(), state_.frmMain.caption);
-    Same("height", frame_.ToDIP(frame_.GetSize().GetHeight()) * kTwipsPerPixel,
-         state_.frmMain.height);
+    Same("height", frame_.ToDIP(frame_.GetSize().GetHeight()),
+         state_.frmMain.height / kTwipsPerPixel);
     CompareHeader();
     CompareChoice();
     CompareCommands();
