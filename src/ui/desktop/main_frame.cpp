@@ -36,6 +36,8 @@ MainFrame::MainFrame(MainWindow& window, std::function<void()> onEnd)
   choice_ = new ChoicePanel(body, state.choice, run);
   commands_ = new CommandBar(body, state.commands, run);
   details_ = new wxPanel(body);
+  // Until there is room: a list without any would have to place its scroll bar outside of itself.
+  details_->Hide();
   lstImport_ = new ReviewListCtrl(details_, state.lstImport, run);
   lstAgendaAvv_ = new AgendaListCtrl(details_, state.lstAgendaAvv, run);
   status_ = new StatusLine(this);

@@ -12,7 +12,6 @@
 
 #include "base/error.h"
 #include "base/number.h"
-#include "store/db/open_connection.h"
 #include "ui/common/clocks.h"
 #include "ui/common/exit_code.h"
 #include "ui/common/process.h"
@@ -108,27 +107,21 @@ void OrdexApp::ShowOrdex() const {
 void OrdexApp::OpenWindow() {
   const std::filesystem::path folder =
       ProgramFolder(options_.dir, ExecutableFile(Utf8(argv[0]).c_str()));
-  window_ = std::make_unique<MainWindow>(
-      folder, World{ports_, ports_, ports_, clipboard_, *clock_, *settings_, ports_, ports_,
-                    [folder](std::string_view connectionString) {
-                      return OpenConnection(connectionString, folder);
-                    }});
-  frame_ = new MainFrame(*window_, [this] { Finish(ExitCodeOf(*window_->ended())); });
-  ports_.Attach(*window_, *frame_);
+  desk_ = std::make_unique<Desk>(folder, *settings_, *clock_,
+                                 [this](EndReason reason) { Finish(ExitCodeOf(reason)); });
   // A poke may come while the window still loads; it waits for the end of that.
-  server_ = std::make_unique<LinkServer>([this] { frame_->CallAfter(&MainFrame::Poke); });
+  server_ = std::make_unique<LinkServer>([this] { desk_->frame()->CallAfter(&MainFrame::Poke); });
   if (!server_->Create(Wx(LinkService()))) {
     throw MakeError(ErrorNumber::kFileAccess, "impossibile aprire il collegamento tra due avvii");
   }
-  frame_->Run([this](MainWindow& window) { window.Start(std::to_string(HandleOf(*frame_))); });
-  if (!over_) frame_->Open();
+  desk_->Start();
 }
 
 void OrdexApp::Finish(int exitCode) {
   exitCode_ = exitCode;
   over_ = true;
   server_.reset();
-  if (frame_ != nullptr) frame_->Destroy();
+  if (desk_ != nullptr) desk_->Close();
   if (IsMainLoopRunning()) ExitMainLoop();
 }
 

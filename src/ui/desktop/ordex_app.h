@@ -4,15 +4,12 @@
 #include <wx/app.h>
 
 #include <memory>
-#include <optional>
 
-#include "app/main_window.h"
-#include "ui/desktop/desktop_ports.h"
+#include "state/ports.h"
+#include "ui/desktop/desk.h"
 #include "ui/desktop/instance_link.h"
 #include "ui/desktop/instance_lock.h"
-#include "ui/desktop/main_frame.h"
 #include "ui/desktop/options.h"
-#include "ui/desktop/system_clipboard.h"
 
 namespace ordex::desktop {
 
@@ -39,10 +36,7 @@ class OrdexApp : public wxApp {
   std::unique_ptr<LinkServer> server_;
   std::unique_ptr<Settings> settings_;
   std::unique_ptr<Clock> clock_;
-  SystemClipboard clipboard_;
-  DesktopPorts ports_;
-  std::unique_ptr<MainWindow> window_;
-  MainFrame* frame_ = nullptr;  // owned by the toolkit
+  std::unique_ptr<Desk> desk_;
 };
 
 }  // namespace ordex::desktop

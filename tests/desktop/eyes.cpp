@@ -1,0 +1,75 @@
+#include "eyes.h"
+
+#include <wx/button.h>
+#include <wx/richmsgdlg.h>
+#include <wx/stattext.h>
+#include <wx/toplevel.h>
+
+namespace ordex::desktop_tests {
+
+std::vector<wxWindow*> ControlsOf(const wxWindow& top) {
+  std::vector<wxWindow*> controls;
+  for (wxWindow* child : top.GetChildren()) {
+    if (child->IsTopLevel()) continue;
+    controls.push_back(child);
+    const std::vector<wxWindow*> inner = ControlsOf(*child);
+    controls.insert(controls.end(), inner.begin(), inner.end());
+  }
+  return controls;
+}
+
+std::string LabelOf(const wxWindow& control) {
+  return wxControl::RemoveMnemonics(control.GetLabel()).utf8_string();
+}
+
+std::vector<std::string> TextsOf(const wxWindow& top) {
+  std::vector<std::string> texts;
+  for (wxWindow* control : ControlsOf(top)) {
+    const auto* text = dynamic_cast<wxStaticText*>(control);
+    if (text != nullptr && text->IsShownOnScreen()) {
+      texts.push_back(text->GetLabelText().utf8_string());
+    }
+  }
+  return texts;
+}
+
+std::vector<std::string> ButtonsOf(const wxWindow& top) {
+  std::vector<std::string> texts;
+  for (wxWindow* control : ControlsOf(top)) {
+    const auto* button = dynamic_cast<wxButton*>(control);
+    if (button != nullptr && button->IsShownOnScreen()) texts.push_back(LabelOf(*button));
+  }
+  return texts;
+}
+
+wxDialog* FrontDialog() {
+  wxDialog* front = nullptr;
+  for (wxWindow* window : wxTopLevelWindows) {
+    auto* dialog = dynamic_cast<wxDialog*>(window);
+    if (dialog != nullptr && dialog->IsModal() && dialog->IsShown()) front = dialog;
+  }
+  return front;
+}
+
+std::ostream& operator<<(std::ostream& out, const Box& box) {
+  out << "[" << box.title << "] " << box.text << " (icon " << std::hex << box.icon << std::dec
+      << ")";
+  for (const std::string& button : box.buttons) out << " <" << button << ">";
+  return out;
+}
+
+// What really stands in the box, not what it was asked to show.
+std::optional<Box> FrontBox() {
+  constexpr long kIcons = wxICON_INFORMATION | wxICON_EXCLAMATION | wxICON_QUESTION | wxICON_ERROR;
+  auto* dialog = dynamic_cast<wxGenericMessageDialog*>(FrontDialog());
+  if (dialog == nullptr) return std::nullopt;
+  Box box;
+  box.title = dialog->GetTitle().utf8_string();
+  for (const std::string& text : TextsOf(*dialog))
+    box.text += (box.text.empty() ? "" : "\n") + text;
+  box.icon = dialog->GetMessageDialogStyle() & kIcons;
+  box.buttons = ButtonsOf(*dialog);
+  return box;
+}
+
+}  // namespace ordex::desktop_tests
