@@ -5,6 +5,7 @@ DESKTOP_PACKAGES="libwxgtk3.2-dev libgtk-3-dev libx11-dev"
 DEMO_PACKAGES="sqlite3"
 TEST_PACKAGES="libgtest-dev libgmock-dev"
 BENCH_PACKAGES="libbenchmark-dev"
+FUZZ_PACKAGES="clang libclang-rt-14-dev"
 LINT_PACKAGES="clang-format clang-tidy"
 
 # Installs those of the named packages that are not there yet.
