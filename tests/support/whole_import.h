@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <deque>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -16,6 +17,18 @@
 #include "support/office_fixture.h"
 
 namespace ordex::testing {
+
+// The rows of each table, by the table's name.
+using Tables = std::map<std::string, std::vector<std::string>>;
+
+inline Tables TablesOf(Office& office) {
+  Tables tables;
+  for (const char* name :
+       {"Pratica", "Utenti", "Anagrafica", "PraOrdex", "EventiPraOrdex", "SCADENZE"}) {
+    tables[name] = office.Rows(std::string("SELECT * FROM ") + name + " ORDER BY 1");
+  }
+  return tables;
+}
 
 // How a statement fails, and what the connection is good for afterwards.
 enum class Failing {
