@@ -14,13 +14,14 @@
 
 #include "base/text.h"
 #include "import_bench.h"
+#include "support/random_values.h"
 
 namespace ordex::testing {
 
 // The same numbers on every platform: the standard's distributions are not.
 class Dice {
  public:
-  explicit Dice(std::uint32_t seed) : engine_(seed) {}
+  explicit Dice(std::uint32_t seed) : engine_(seed + SeedOfTheDay()) {}
 
   std::size_t Below(std::size_t count) { return engine_() % count; }
   bool Half() { return Below(2) == 0; }

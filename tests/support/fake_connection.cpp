@@ -53,6 +53,7 @@ void FakeConnection::FailOn(std::string part, FakeFailure failure) {
 
 void FakeConnection::Note(std::string statement) {
   statements_.push_back(std::move(statement));
+  if (deadFrom_ != 0 && statements_.size() >= deadFrom_) throw FakeFailure{}.error;
   const auto plan = std::find_if(plans_.begin(), plans_.end(), [&](const Plan& each) {
     if (each.number != 0) return each.number == statements_.size();
     return Contains(statements_.back(), each.part);

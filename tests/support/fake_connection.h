@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/error.h"
@@ -23,6 +24,9 @@ struct FakeFailure {
 class FakeConnection final : public Connection {
  public:
   explicit FakeConnection(Connection& real) : real_(real) {}
+  // Keeps the real connection as long as it lives itself.
+  explicit FakeConnection(std::unique_ptr<Connection> real)
+      : owned_(std::move(real)), real_(*owned_) {}
 
   // In order: "BEGIN", "COMMIT", "ROLLBACK", "PREPARE …" and "FETCH …" with the text of a SELECT,
   // "EXECUTE …" with the text of a statement, "INSERT Table (A, B)", "UPDATE Table (A, B)". A
@@ -37,6 +41,8 @@ class FakeConnection final : public Connection {
   void FailAt(std::size_t number, FakeFailure failure = {});
   // The next statement whose listed text contains `part` fails, once; it is not passed on.
   void FailOn(std::string part, FakeFailure failure = {});
+  // The statement with that number and all behind it fail, a rollback too: the line is dead.
+  void FailFrom(std::size_t number) { deadFrom_ = number; }
 
   std::unique_ptr<Query> Prepare(std::string_view sql) override;
   std::unique_ptr<Query> PrepareNative(std::string_view sql,
@@ -64,9 +70,11 @@ class FakeConnection final : public Connection {
   // Lists a statement and fails where that was asked for.
   void Note(std::string statement);
 
+  std::unique_ptr<Connection> owned_;
   Connection& real_;
   std::vector<std::string> statements_;
   std::vector<Plan> plans_;
+  std::size_t deadFrom_ = 0;  // 0: never
 };
 
 }  // namespace ordex

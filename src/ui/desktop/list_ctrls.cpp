@@ -17,7 +17,9 @@ constexpr int kCtrlC = 3;
 // The lists' entry colour is made for a light background; on a dark one it could not be read.
 wxColour EntryColour(std::int32_t bgr) {
   if (wxSystemSettings::GetAppearance().IsDark()) return {0xFF, 0x8A, 0x80};
-  return wxColour(static_cast<unsigned long>(bgr));
+  wxColour colour;
+  colour.SetRGB(static_cast<wxUint32>(bgr));
+  return colour;
 }
 
 // A cell is one line, whatever the text holds.
