@@ -1,38 +1,57 @@
 #!/usr/bin/env bash
 # Passes the tests, on a bare Debian machine too.
-#   ./test.sh        the quick set: unit, contract and session tests
-#   ./test.sh --all  also the format, the benchmarks once and the unit tests under the sanitizers
+#   ./test.sh        the quick set: unit, contract, session and window tests
+#   ./test.sh --all  also format and lint, the benchmarks once, the sanitizers, a short search by the
+#                    fuzz targets, and the Windows programs under Wine
 set -euo pipefail
 export PATH="${PATH:-/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin}" HOME="${HOME:-/root}"
 cd "$(dirname "$0")"
 . scripts/packages.sh
 
+FUZZ_SECONDS=20
+
+# stage NAME COMMAND...: runs it and tells how long it took.
+stage() {
+  local name=$1 begin=$SECONDS
+  shift
+  echo "== $name"
+  "$@"
+  echo "== $name: done in $((SECONDS - begin)) s"
+}
+
 # run_tests PRESET [further options]
 run_tests() {
   local preset=$1
   shift
-  ctest --test-dir "build/$preset" --output-on-failure -j "$(nproc)" --timeout 300 --no-tests=error "$@"
+  ctest --test-dir "build/$preset" --output-on-failure -j "$(nproc)" --timeout 300 --no-tests=error "$@" |
+    tee "build/$preset/ctest.log"
 }
 
 quick() {
-  need_packages $BUILD_PACKAGES $DESKTOP_PACKAGES $TEST_PACKAGES
-  echo "== release build"
-  build_preset release
-  echo "== tests"
-  run_tests release
+  need_packages $BUILD_PACKAGES $DESKTOP_PACKAGES $TEST_PACKAGES $GUI_TEST_PACKAGES
+  stage "release build" build_preset release
+  stage "tests" run_tests release
+}
+
+# The sessions pass through the instrumented console too; those through ODBC run the same code but for
+# the driver, which has its own tests here.
+sanitized() {
+  build_preset debug
+  run_tests debug -E '^(sessions-odbc|abuse):'
 }
 
 all() {
-  need_packages $BUILD_PACKAGES $DESKTOP_PACKAGES $TEST_PACKAGES $BENCH_PACKAGES $LINT_PACKAGES
-  echo "== format"
-  scripts/lint.sh --format
+  need_packages $BUILD_PACKAGES $DESKTOP_PACKAGES $TEST_PACKAGES $GUI_TEST_PACKAGES $BENCH_PACKAGES \
+    $FUZZ_PACKAGES $LINT_PACKAGES
+  stage "format" scripts/lint.sh --format
   quick
-  echo "== benchmarks, once each"
-  bench/run.sh --once
-  echo "== tests under the address and undefined-behaviour sanitizers"
-  # The sessions drive the program from outside and have run above.
-  build_preset debug
-  run_tests debug -E '^sessions:'
+  stage "lint" scripts/lint.sh
+  stage "benchmarks, once each" bench/run.sh --once
+  stage "address and undefined-behaviour sanitizers" sanitized
+  stage "fuzz targets" fuzz/run.sh "$FUZZ_SECONDS"
+  stage "Windows programs" packaging/windows/build.sh
+  stage "Windows programs under Wine" packaging/windows/test.sh
+  grep -h "tests passed" build/release/ctest.log build/debug/ctest.log
 }
 
 case "${1:-}" in

@@ -6,6 +6,8 @@ DEMO_PACKAGES="sqlite3"
 # With two ODBC drivers that are loaded when the program runs: one for the embedded database, over which
 # the tests pass through ODBC too, and FreeTDS, the one for SQL Server.
 TEST_PACKAGES="libgtest-dev libgmock-dev libsqliteodbc tdsodbc"
+# A display of the tests' own, a window manager, and hands and eyes for it.
+GUI_TEST_PACKAGES="xvfb openbox xdotool xclip x11-utils"
 BENCH_PACKAGES="libbenchmark-dev"
 <<<<<<< HEAD
 # For the Windows programs: the compiler, and what their libraries' sources and icon are made with.
