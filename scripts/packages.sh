@@ -9,15 +9,12 @@ TEST_PACKAGES="libgtest-dev libgmock-dev libsqliteodbc tdsodbc"
 # A display of the tests' own, a window manager, and hands and eyes for it.
 GUI_TEST_PACKAGES="xvfb openbox xdotool xclip x11-utils"
 BENCH_PACKAGES="libbenchmark-dev"
-<<<<<<< HEAD
 # For the Windows programs: the compiler, and what their libraries' sources and icon are made with.
 WINDOWS_PACKAGES="g++-mingw-w64-x86-64-posix gcc g++ make cmake ninja-build pkg-config ccache dpkg-dev tcl
   libcli11-dev nlohmann-json3-dev librsvg2-bin imagemagick nsis zip"
 # To run them here.
 WINDOWS_TEST_PACKAGES="wine64 xvfb xauth sqlite3"
-=======
 FUZZ_PACKAGES="clang libclang-rt-14-dev"
->>>>>>> abuse
 LINT_PACKAGES="clang-format clang-tidy"
 
 # Installs those of the named packages that are not there yet.
