@@ -1,6 +1,7 @@
 // The rows of the review list, packed.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -17,28 +18,35 @@ struct ReviewRow {
   std::string_view tag;
 };
 
-// A sequence of rows that holds their texts one behind the other: a history of tens of thousands of
-// events costs no more memory than its text and a few numbers a row. What it hands out are views,
-// valid until the next row is added.
+// A sequence of rows that holds their texts one behind the other, in blocks that never move: a
+// history of tens of thousands of events costs no more memory than its text and a few numbers a
+// row. What it hands out are views, valid until the rows are cleared.
 class ReviewRows {
  public:
   std::size_t size() const { return places_.size(); }
   bool empty() const { return places_.empty(); }
 
   void push_back(const ReviewRow& row) {
+    const std::array<std::string_view, kTexts> texts = {row.text, row.sub[0], row.sub[1],
+                                                        row.sub[2], row.tag};
     Place place;
-    place.begin = texts_.size();
-    place.lengths = {Length(row.text), Length(row.sub[0]), Length(row.sub[1]), Length(row.sub[2]),
-                     Length(row.tag)};
-    for (const std::string_view text : {row.text, row.sub[0], row.sub[1], row.sub[2], row.tag}) {
-      if (!text.empty()) texts_.append(text);
+    std::size_t bytes = 0;
+    for (std::size_t i = 0; i < kTexts; ++i) {
+      place.lengths[i] = Length(texts[i]);
+      bytes += texts[i].size();
+    }
+    std::string& block = BlockFor(bytes);
+    place.block = static_cast<std::uint32_t>(blocks_.size() - 1);
+    place.begin = static_cast<std::uint32_t>(block.size());
+    for (const std::string_view text : texts) {
+      if (!text.empty()) block.append(text);
     }
     places_.push_back(place);
   }
 
   ReviewRow operator[](std::size_t index) const {
     const Place& place = places_[index];
-    const char* next = texts_.data() + place.begin;
+    const char* next = blocks_[place.block].data() + place.begin;
     const auto take = [&next, &place](std::size_t part) {
       const std::string_view text(next, place.lengths[part]);
       next += place.lengths[part];
@@ -47,7 +55,7 @@ class ReviewRows {
     ReviewRow row;
     row.text = take(0);
     for (std::size_t i = 0; i < row.sub.size(); ++i) row.sub[i] = take(i + 1);
-    row.tag = take(4);
+    row.tag = take(kTexts - 1);
     return row;
   }
 
@@ -58,14 +66,18 @@ class ReviewRows {
   }
 
   void clear() {
-    texts_.clear();
+    blocks_.clear();
     places_.clear();
   }
 
  private:
+  static constexpr std::size_t kTexts = 5;
+  static constexpr std::size_t kBlockBytes = 65536;
+
   struct Place {
-    std::size_t begin = 0;                   // in texts_
-    std::array<std::uint32_t, 5> lengths{};  // bytes of each text in turn
+    std::uint32_t block = 0;                      // in blocks_
+    std::uint32_t begin = 0;                      // in the block, in bytes
+    std::array<std::uint32_t, kTexts> lengths{};  // bytes of each text in turn
   };
 
   static std::uint32_t Length(std::string_view text) {
@@ -73,7 +85,16 @@ class ReviewRows {
     return static_cast<std::uint32_t>(text.size());
   }
 
-  std::string texts_;
+  // The last block, or a new one where the last has no room left. A block never grows beyond what
+  // was set aside for it; a row that is larger than a block gets one of its own.
+  std::string& BlockFor(std::size_t bytes) {
+    if (blocks_.empty() || blocks_.back().capacity() - blocks_.back().size() < bytes) {
+      blocks_.emplace_back().reserve(std::max(kBlockBytes, bytes));
+    }
+    return blocks_.back();
+  }
+
+  std::vector<std::string> blocks_;
   std::vector<Place> places_;
 };
 
