@@ -10,7 +10,7 @@ namespace ordex::bench {
 void AddParseBenchmarks(RatioReporter& reporter);
 // Look-up and search in a database with so many cases.
 void AddSearchBenchmarks(RatioReporter& reporter, std::int64_t cases);
-void AddUpdateBenchmarks(RatioReporter& reporter);
+void AddImportBenchmarks(RatioReporter& reporter);
 void AddHistoryBenchmarks(RatioReporter& reporter);
 
 }  // namespace ordex::bench

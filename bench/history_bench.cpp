@@ -85,9 +85,13 @@ void AddProgram(const std::string& name, HistoryOffice& office) {
 }  // namespace
 
 void AddHistoryBenchmarks(RatioReporter& reporter) {
+  static HistoryOffice hundred(100);
   static HistoryOffice thousand(1000);
   static HistoryOffice tenThousand(10000);
   static const std::vector<std::string> statements = StatementsOf([] { tenThousand.Register(); });
+  AddProgram("history 100 to 10,000/baseline", hundred);
+  AddProgram("history 100 to 10,000/program", tenThousand);
+  reporter.Aim("history 100 to 10,000", 110.0);
   AddProgram("history 1,000 to 10,000/baseline", thousand);
   AddProgram("history 1,000 to 10,000/program", tenThousand);
   reporter.Aim("history 1,000 to 10,000", 11.0);

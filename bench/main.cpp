@@ -31,7 +31,7 @@ int main(int argc, char** argv) {
   ordex::bench::RatioReporter reporter;
   ordex::bench::AddParseBenchmarks(reporter);
   ordex::bench::AddSearchBenchmarks(reporter, cases);
-  ordex::bench::AddUpdateBenchmarks(reporter);
+  ordex::bench::AddImportBenchmarks(reporter);
   ordex::bench::AddHistoryBenchmarks(reporter);
   benchmark::RunSpecifiedBenchmarks(&reporter);
   return 0;

@@ -1,5 +1,7 @@
 #include "ui/desktop/status_line.h"
 
+#include <array>
+
 #include "ui/desktop/icons.h"
 #include "ui/desktop/wx_text.h"
 
@@ -19,8 +21,8 @@ StatusLine::StatusLine(wxWindow* parent)
     : wxStatusBar(parent, wxID_ANY,
                   wxSTB_ELLIPSIZE_END | wxSTB_SHOW_TIPS | wxFULL_REPAINT_ON_RESIZE, "StatusBar") {
   SetFieldsCount(kFields);
-  const int styles[kFields] = {wxSB_FLAT, wxSB_FLAT, wxSB_FLAT};
-  SetStatusStyles(kFields, styles);
+  const std::array<int, kFields> styles = {wxSB_FLAT, wxSB_FLAT, wxSB_FLAT};
+  SetStatusStyles(kFields, styles.data());
   image_ = new wxStaticBitmap(this, wxID_ANY, Icon("praxion", kPictureSide));
   image_->Hide();
   gauge_ = new wxGauge(this, wxID_ANY, kGaugeSteps);
@@ -59,9 +61,10 @@ void StatusLine::HideProgress() {
 }
 
 void StatusLine::Arrange() {
-  const int widths[kFields] = {image_->IsShown() ? FromDIP(kPictureWidth) : FromDIP(4), -1,
-                               gauge_->IsShown() ? FromDIP(kGaugeWidth) : FromDIP(16)};
-  SetStatusWidths(kFields, widths);
+  const std::array<int, kFields> widths = {image_->IsShown() ? FromDIP(kPictureWidth) : FromDIP(4),
+                                           -1,
+                                           gauge_->IsShown() ? FromDIP(kGaugeWidth) : FromDIP(16)};
+  SetStatusWidths(kFields, widths.data());
   wxRect place;
   if (GetFieldRect(kPictureField, place)) {
     const wxSize size = image_->GetSize();
