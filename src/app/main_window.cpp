@@ -80,7 +80,8 @@ void MainWindow::Poke() {
 
 void MainWindow::Close() {
   Run([this] {
-    Form_Unload();
+    // A page that is being refused has no window.
+    if (window_.page.iOrdexPage != kPageUnknown) Form_Unload();
     End(EndReason::kClosed);
   });
 }

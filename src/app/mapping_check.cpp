@@ -141,11 +141,24 @@ class Check {
               " righe, le pagine note sono 4: profilo, storico, agenda e giudice di pace, in "
               "quest'ordine.");
     }
+    for (const MappingLine& line : recognition_) CheckFileName(line);
     for (std::size_t later = 1; later < recognition_.size(); ++later) {
       for (std::size_t earlier = 0; earlier < later; ++earlier) {
         CheckHiding(recognition_[earlier], recognition_[later]);
       }
     }
+  }
+
+  // The page file is named after the text.
+  void CheckFileName(const MappingLine& line) {
+    const std::size_t at = line.left.find_first_of("/\\:*?\"<>|");
+    if (at == std::string::npos) return;
+    Add(kMapRestr, line.number, Severity::kError,
+        "Il testo " + Quoted(line.left) + " contiene il segno " +
+            Quoted(std::string_view(line.left).substr(at, 1)) +
+            ", che in un nome di file non può stare: il file della pagina prende il nome dal "
+            "testo. "
+            "Usare un testo senza quel segno.");
   }
 
   void CheckHiding(const MappingLine& earlier, const MappingLine& later) {

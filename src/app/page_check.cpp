@@ -18,8 +18,8 @@ namespace {
 std::vector<fs::path> TextFiles(const fs::path& folder) {
   std::vector<fs::path> files;
   for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-    if (entry.is_regular_file() && entry.path().extension() == ".txt")
-      files.push_back(entry.path());
+    const bool text = EqualIgnoringCase(TextOf(entry.path().extension()), ".txt");
+    if (text && entry.is_regular_file()) files.push_back(entry.path());
   }
   std::sort(files.begin(), files.end());
   return files;
@@ -70,9 +70,13 @@ class PageCheck {
     findings_.push_back({std::move(file), line, severity, std::move(text)});
   }
 
+  // An agenda may be empty: what counts there is that the number of its entries was found.
   static bool YieldsNothing(const PageTrial& trial) {
-    return std::all_of(trial.lines.begin(), trial.lines.end(),
-                       [](const LineReport& line) { return line.rule.empty(); });
+    const Window& window = trial.window;
+    return window.lstImport.rows.empty() && window.lstAgendaAvv.rows.empty() &&
+           window.page.cDatiFasc.Count() == 0 &&
+           std::none_of(trial.lines.begin(), trial.lines.end(),
+                        [](const LineReport& line) { return line.rule == kNumberOfEntries; });
   }
 
   void Note(const PageTrial& trial) {
@@ -107,8 +111,15 @@ class PageCheck {
 }  // namespace
 
 std::vector<Finding> CheckPages(const fs::path& programFolder, const fs::path& pages) {
+  const std::vector<fs::path> files = TextFiles(pages);
+  if (files.empty()) {
+    return {
+        {TextOf(pages), 0, Severity::kWarning,
+         "Nella cartella non c'è nessuna pagina: salvare qui il testo di ogni pagina, in un file "
+         "che finisce per .txt."}};
+  }
   PageCheck check(programFolder);
-  for (const fs::path& file : TextFiles(pages)) check.Run(file);
+  for (const fs::path& file : files) check.Run(file);
   return check.Finish();
 }
 

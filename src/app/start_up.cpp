@@ -6,6 +6,7 @@
 #include "app/review_lists.h"
 #include "app/window_commands.h"
 #include "app/window_sink.h"
+#include "base/error.h"
 #include "base/number.h"
 #include "cases/case_choice_rules.h"
 #include "parse/mapping_files.h"
@@ -18,6 +19,21 @@ constexpr std::string_view kShared = "Shared";
 constexpr std::string_view kIdUtente = "Id_Utente";
 constexpr std::int32_t kNobodyLoggedOn = -1;
 constexpr std::int32_t kFallbackUser = 2;
+
+// Errors: type mismatch, overflow.
+std::int32_t UserOf(const std::string& setting) {
+  try {
+    return ToInt32(setting);
+  } catch (const RunTimeError& error) {
+    throw MakeError(
+        error.code(),
+        "nelle impostazioni di \"Zelmo32\", sezione \"Shared\", il valore di "
+        "\"Id_Utente\" è \"" +
+            setting +
+            "\" e non il numero di un utente. Aprire Praxion e accedere, poi avviare di "
+            "nuovo Ordex");
+  }
+}
 
 }  // namespace
 
@@ -66,7 +82,7 @@ void MainWindow::SetDb() {
 }
 
 void MainWindow::GestUtente() {
-  const std::int32_t user = ToInt32(world_.settings.Get(kShared, kIdUtente));
+  const std::int32_t user = UserOf(world_.settings.Get(kShared, kIdUtente));
   if (user != kNobodyLoggedOn) {
     ctlTestata1_.SetUser(user);
     return;

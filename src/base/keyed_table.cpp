@@ -106,6 +106,7 @@ std::string* KeyedTable::MoveToEnd(std::string_view key) {
   const auto found = Find(key);
   if (found == index_.end()) return nullptr;
   entries_.splice(entries_.end(), entries_, found->second);
+  found->second->key = key;
   return &found->second->value;
 }
 

@@ -74,12 +74,6 @@ void SetCaseColumns(DbRecord& record, const AgendaCase& found, const std::string
   record.Set("Parti", parti);
 }
 
-void SetResponsible(DbRecord& record, const AgendaCase& found, const Clock& clock) {
-  record.Set("Responsabile", found.nomeUtente);
-  record.Set("IdResponsabile", std::int64_t{found.idContab});
-  record.Set("LastLocalUpdate", clock.Now());
-}
-
 // A new row, with its text and priority. A row that is there keeps both: they may be the user's.
 void AddIfMissing(DbRecord& record, std::string_view scadenza) {
   if (!record.recordset().Eof()) return;
@@ -111,13 +105,16 @@ void HearingWriter::WriteHearing(std::string_view key) {
   record.Set("Data_End", std::string(data));
   SetCaseColumns(record, *found, parti, true);
   // From here on errors are passed over one by one: a time that cannot be read leaves the column as
-  // it was, and does not cost the hearing.
-  TrapErrors(database_, "ScriviUdienza", [&] {
+  // it was, and costs neither the other columns nor the hearing.
+  const auto pass_over = [this](const auto& step) { TrapErrors(database_, "ScriviUdienza", step); };
+  pass_over([&] {
     if (parts.size() < 2) return;
     if (const auto ora = FormatTimeOfDay(parts[1])) record.Set("Ora", *ora);
   });
-  TrapErrors(database_, "ScriviUdienza", [&] { SetResponsible(record, *found, clock_); });
-  TrapErrors(database_, "ScriviUdienza", [&] { record.recordset().Update(); });
+  pass_over([&] { record.Set("Responsabile", found->nomeUtente); });
+  pass_over([&] { record.Set("IdResponsabile", std::int64_t{found->idContab}); });
+  pass_over([&] { record.Set("LastLocalUpdate", clock_.Now()); });
+  pass_over([&] { record.recordset().Update(); });
 }
 
 void HearingWriter::ScriviScadenza(std::string_view data, std::string_view descrizione) {
@@ -140,10 +137,11 @@ void HearingWriter::WriteDeadline(std::string_view data, std::string_view descri
               kForChanges);
   AddIfMissing(record, scadenza);
   record.Set("Data_End", std::string(Trim(data)));
-  const Value end = record.Get("Data_End");
-  record.Set("Data_Start", AddDays(std::get<DateTime>(end), -kWarningDays));
+  record.Set("Data_Start", AddDays(AsDate(record.Get("Data_End")), -kWarningDays));
   SetCaseColumns(record, *found, parti, false);
-  SetResponsible(record, *found, clock_);
+  record.Set("Responsabile", found->nomeUtente);
+  record.Set("IdResponsabile", std::int64_t{found->idContab});
+  record.Set("LastLocalUpdate", clock_.Now());
   record.recordset().Update();
 }
 

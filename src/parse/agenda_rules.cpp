@@ -46,7 +46,7 @@ class AgendaRules : public PageRules {
   }
 
   void TakeCount(const PageLine& szRiga) {
-    reader_.Taken(szRiga, "numero impegni");
+    reader_.Taken(szRiga, kNumberOfEntries);
     const std::string_view behind = Part(Split(szRiga.text, countBegin_.text(), 2), 1);
     page_.iNrEventiAgenda = ToInt16(Split(behind, countEnd_.text())[0]);
   }

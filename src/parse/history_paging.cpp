@@ -5,10 +5,13 @@
 #include "base/error.h"
 #include "base/number.h"
 #include "base/text.h"
+#include "parse/mapping_files.h"
 #include "parse/page_rules.h"
 
 namespace ordex {
 namespace {
+
+constexpr std::size_t kLongestShown = 60;  // characters of a text in a message
 
 // Errors of the page line are absorbed: a number that cannot be read leaves its variable as it was.
 void ReadNumber(std::string_view text, std::int16_t& number) {
@@ -25,6 +28,29 @@ void ReadPageLine(const KeyedTable& cDelimitatori, std::string_view line, Histor
   const auto numbers = Split(line, *between, 2);
   ReadNumber(numbers[0], paging.iPaginaStorico);
   if (numbers.size() > 1) ReadNumber(numbers[1], paging.iTotPagineStorico);
+}
+
+RunTimeError TotalError(ErrorNumber number, const std::string& why) {
+  return MakeError(number, "il totale degli eventi dello storico non si legge: " + why +
+                               ". Copiare di nuovo la pagina, oppure correggere i due testi in \"" +
+                               std::string(kMapDelimitatori) + "\"");
+}
+
+// The number of events, which stands between the marks `begin` and `end`; `before` is the text up
+// to `end`. Errors: subscript, type mismatch, overflow.
+std::int16_t ReadTotal(std::string_view before, std::string_view begin, const std::string& end) {
+  const std::string first = "\"" + std::string(begin) + "\" (DELSF4)";
+  const std::string last = "\"" + end + "\" (DELSF5)";
+  const auto total = Split(before, begin, 2);
+  if (total.size() < 2) {
+    throw TotalError(ErrorNumber::kSubscript, first + " non sta prima di " + last);
+  }
+  try {
+    return ToInt16(total[1]);
+  } catch (const RunTimeError& error) {
+    throw TotalError(error.code(), "tra " + first + " e " + last + " sta \"" +
+                                       std::string(Left(total[1], kLongestShown)) + "\"");
+  }
 }
 
 // What stands behind the total and the page's mark; nullopt where there is no such place. A mark
@@ -45,8 +71,7 @@ void LeggiPaginazioneStorico(const KeyedTable& cDelimitatori, std::string& s,
   if (s.empty()) return;
   const std::string end(Delimiter(cDelimitatori, "DELSF5").text());
   const std::string_view before = Split(s, end, 2)[0];
-  const auto total = Split(before, Delimiter(cDelimitatori, "DELSF4").text(), 2);
-  paging.iTotEventiStorico = ToInt16(Part(total, 1));
+  paging.iTotEventiStorico = ReadTotal(before, Delimiter(cDelimitatori, "DELSF4").text(), end);
 
   const auto behind = BehindPageMark(cDelimitatori, s, end);
   if (!behind) {

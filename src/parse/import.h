@@ -35,6 +35,9 @@ struct PageLine {
   std::size_t number = 0;
 };
 
+// The rule of the line that says how many entries an agenda has, none included.
+inline constexpr std::string_view kNumberOfEntries = "numero impegni";
+
 // Follows an import line by line. Lines are told in the order they are read, and then, at any later
 // time, which rule took them; a line that is never told as taken was taken by none.
 class ImportTrace {

@@ -47,7 +47,8 @@ bool Landmark::In(std::string_view line) {
 std::string_view Part(const std::vector<std::string_view>& parts, std::size_t index) {
   if (index >= parts.size()) {
     throw MakeError(ErrorNumber::kSubscript, "la riga ha " + std::to_string(parts.size()) +
-                                                 " parti, ne servono almeno " +
+                                                 (parts.size() == 1 ? " parte" : " parti") +
+                                                 ", ne servono almeno " +
                                                  std::to_string(index + 1));
   }
   return parts[index];

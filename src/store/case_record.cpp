@@ -42,11 +42,11 @@ void SetIfRead(DbRecord& record, const KeyedTable& cDatiFasc, std::string_view c
   if (const std::string* value = cDatiFasc.Lookup(column)) record.Set(column, *value);
 }
 
-void SetPageColumns(DbRecord& record, const Page& page) {
+void SetPageColumns(DbRecord& record, const Page& page, bool create) {
   if (page.pageAtOpening == kPageProfile) {
     record.Set("NumeroRegGenerale", page.cDatiFasc.Item("NumeroRegGenerale"));
     SetIfRead(record, page.cDatiFasc, "Sezione");
-  } else if (!page.szNumeroRG.empty()) {
+  } else if (create || !page.szNumeroRG.empty()) {
     // A history page carries no number: the stored one is left alone.
     record.Set("NumeroRegGenerale", page.szNumeroRG);
   }
@@ -61,7 +61,7 @@ std::int32_t WriteCaseRow(DbRecord& record, const CaseRecordTask& task, bool cre
     record.recordset().AddNew();
     SetCreationColumns(record, task, idCliente);
   }
-  SetPageColumns(record, task.page);
+  SetPageColumns(record, task.page, create);
   record.recordset().Update();
   return AsInt32(record.Get("ID_Pra"));
 }

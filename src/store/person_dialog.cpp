@@ -86,12 +86,13 @@ std::string CardText(const Person& person) {
   return text;
 }
 
-// A byte that stands for itself in the address of a mailto link. Everything else is written as a
-// percent escape, so that an address cannot bring further arguments along.
+// Whether a byte stands for itself in a mailto link. What could bring further arguments along, for
+// the mail program or for the system that starts it, is written as a percent escape; letters of
+// every alphabet and the semicolon between two addresses stay.
 bool IsPlainInLink(char byte) {
-  return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') ||
-         (byte >= '0' && byte <= '9') ||
-         std::string_view("@.-_+,~!$'*").find(byte) != std::string_view::npos;
+  const auto code = static_cast<unsigned char>(byte);
+  return code > ' ' && code != 0x7F &&
+         std::string_view("?&#%=\"<>\\^`{|}()").find(byte) == std::string_view::npos;
 }
 
 std::string LinkText(std::string_view text) {

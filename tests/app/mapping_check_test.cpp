@@ -183,6 +183,20 @@ TEST(RecognitionTexts, OneThatStandsInAnEarlierOneHidesNothing) {
   EXPECT_EQ(folder.Check(), Findings{});
 }
 
+// The page file is named after the text.
+TEST(RecognitionTexts, ThatCannotBeAFilesNameAreErrors) {
+  EditedMapping folder;
+  const std::size_t line =
+      folder.Change(kRestr, "agenda dell'avvocato - impegni del periodo=Agenda",
+                    "agenda dell'avvocato: impegni=Agenda");
+  EXPECT_EQ(
+      folder.Check(),
+      (Findings{ErrorAt(kRestr, line,
+                        "Il testo \"agenda dell'avvocato: impegni\" contiene il segno \":\", "
+                        "che in un nome di file non può stare: il file della pagina prende il "
+                        "nome dal testo. Usare un testo senza quel segno.")}));
+}
+
 TEST(RecognitionTexts, OtherThanFourAreTold) {
   EditedMapping folder;
   folder.Drop(kRestr, "agenda dell'avvocato - impegni del periodo=Agenda");

@@ -70,6 +70,40 @@ TEST(PageCheck, WarnsOfAPageThatYieldsNothing) {
                                 "\"MapDelimitatori.txt\" e \"MapCampi.txt\".")}));
 }
 
+TEST(PageCheck, WarnsOfPagesOfWhichOnlyTheFrameIsFound) {
+  PageCheckFixture fixture;
+  fixture.pages.Write("gdp.txt",
+                      "Giudice di pace - Scheda del procedimento\nDati del procedimento\n"
+                      "Materiale: x\n\nParti e rappresentanti\nOpponente: A\n\n");
+  fixture.pages.Write("storia.txt",
+                      "Storico del fascicolo - Elenco eventi\nElenco(3 righe)\n"
+                      "Prog. Data Descrizione\n\n");
+  const std::string nothing =
+      "Dalla pagina non viene letto nulla: controllare le diciture in \"MapDelimitatori.txt\" e "
+      "\"MapCampi.txt\".";
+  EXPECT_EQ(fixture.Check(),
+            (Findings{WarningAt("gdp.txt", 0, nothing), WarningAt("storia.txt", 0, nothing)}));
+}
+
+TEST(PageCheck, TakesTheEndingOfAFileInAnyLetterCase) {
+  PageCheckFixture fixture;
+  fixture.pages.Write("LETTERA.TXT", "Gentile collega,\n");
+  ASSERT_EQ(fixture.Check().size(), 1U);
+  EXPECT_EQ(fixture.Check()[0].file, "LETTERA.TXT");
+}
+
+TEST(PageCheck, OfAFolderWithoutPagesSaysSoAndBlamesNoMappingLine) {
+  const EditedMapping folder;
+  const TempFolder pages;
+  pages.Write("profilo", "Profilo del fascicolo - Dati generali\n");
+  const Findings findings = CheckPages(folder.path(), pages.path());
+  ASSERT_EQ(findings.size(), 1U);
+  EXPECT_EQ(
+      findings[0].text,
+      "Nella cartella non c'è nessuna pagina: salvare qui il testo di ogni pagina, in un file "
+      "che finisce per .txt.");
+}
+
 TEST(PageCheck, TakesAWeekWithoutEntriesForRead) {
   PageCheckFixture fixture;
   fixture.pages.Write(
@@ -103,8 +137,12 @@ TEST(PageCheck, GoesOnBehindAHistoryWhosePlaceCannotBeRead) {
   fixture.pages.Write("vuota.txt", "Profilo del fascicolo - Dati generali\n");
   const Findings findings = fixture.Check();
   ASSERT_EQ(findings.size(), 2U);
-  EXPECT_EQ(findings[0], ErrorAt("senza-numero.txt", 0,
-                                 "L'importazione si ferma: Tipo non corrispondente: \"sette\""));
+  EXPECT_EQ(findings[0],
+            ErrorAt("senza-numero.txt", 0,
+                    "L'importazione si ferma: Tipo non corrispondente: il totale degli "
+                    "eventi dello storico non si legge: tra \"Elenco(\" (DELSF4) e "
+                    "\"righe)\" (DELSF5) sta \"sette\". Copiare di nuovo la pagina, "
+                    "oppure correggere i due testi in \"MapDelimitatori.txt\""));
   EXPECT_EQ(findings[1].file, "vuota.txt");
 }
 

@@ -104,17 +104,23 @@ void ExpectEndWith(const std::string& user, const std::string& report) {
   EXPECT_EQ(fixture.settings.saved, (Texts{"Shared/OrdexHandle=4711"}));
 }
 
+std::string NoUser(const std::string& value) {
+  return "nelle impostazioni di \"Zelmo32\", sezione \"Shared\", il valore di \"Id_Utente\" è \"" +
+         value +
+         "\" e non il numero di un utente. Aprire Praxion e accedere, poi avviare di nuovo Ordex";
+}
+
 TEST(UserOfTheStart, ThatIsMissingEndsTheProgram) {
-  ExpectEndWith("", "Errore di run-time '13': Tipo non corrispondente: \"\"");
+  ExpectEndWith("", "Errore di run-time '13': Tipo non corrispondente: " + NoUser(""));
 }
 
 TEST(UserOfTheStart, ThatIsNoNumberEndsTheProgram) {
-  ExpectEndWith("ROSSI", "Errore di run-time '13': Tipo non corrispondente: \"ROSSI\"");
-  ExpectEndWith("7.5", "Errore di run-time '13': Tipo non corrispondente: \"7.5\"");
+  ExpectEndWith("ROSSI", "Errore di run-time '13': Tipo non corrispondente: " + NoUser("ROSSI"));
+  ExpectEndWith("7.5", "Errore di run-time '13': Tipo non corrispondente: " + NoUser("7.5"));
 }
 
 TEST(UserOfTheStart, ThatIsTooLargeEndsTheProgram) {
-  ExpectEndWith("2147483648", "Errore di run-time '6': Overflow: \"2147483648\"");
+  ExpectEndWith("2147483648", "Errore di run-time '6': Overflow: " + NoUser("2147483648"));
 }
 
 }  // namespace

@@ -212,13 +212,13 @@ TEST(KeyedTable, AnEntryRemovedAndAddedAgainStandsAtTheEnd) {
                                          Pair("prima", "uno; altro")));
 }
 
-TEST(KeyedTable, AnEntryMovedToTheEndKeepsItsKeyAndItsValueCanBeBuiltOn) {
+TEST(KeyedTable, AnEntryMovedToTheEndTakesTheKeyAsItIsWrittenNowAndItsValueCanBeBuiltOn) {
   KeyedTable table = ThreeSections();
   std::string* value = table.MoveToEnd("PRIMA");
   ASSERT_NE(value, nullptr);
   value->append("; altro");
   EXPECT_THAT(Listed(table), ElementsAre(Pair("Seconda", "due"), Pair("Terza", "tre"),
-                                         Pair("Prima", "uno; altro")));
+                                         Pair("PRIMA", "uno; altro")));
   EXPECT_EQ(table.Item("prima"), "uno; altro");
   EXPECT_EQ(table.Count(), 3U);
 }
@@ -292,7 +292,7 @@ TEST(KeyedTable, ATableAssignedFromAnotherOutlivesIt) {
   EXPECT_FALSE(copy.Exists("Vecchia"));
   EXPECT_EQ(*copy.MoveToEnd("PRIMA"), "uno");
   EXPECT_EQ(copy.Take("seconda"), "due");
-  EXPECT_THAT(Listed(copy), ElementsAre(Pair("Terza", "tre"), Pair("Prima", "uno")));
+  EXPECT_THAT(Listed(copy), ElementsAre(Pair("Terza", "tre"), Pair("PRIMA", "uno")));
 }
 
 TEST(KeyedTable, AMovedTableKeepsItsEntriesAndTakesNewOnes) {

@@ -114,6 +114,14 @@ TEST(ScriviScadenza, ADescriptionOfTwoHundredCharactersFits) {
 }
 
 // What does not fit its column is an error, never a silent cut.
+TEST(ScriviScadenza, StartsTwentyDaysBeforeAlsoWhereTheDateIsKeptAsAText) {
+  AgendaFixture agenda;
+  agenda.office.Do("ALTER TABLE SCADENZE DROP COLUMN Data_End");
+  agenda.office.Do("ALTER TABLE SCADENZE ADD COLUMN Data_End NVARCHAR(20)");
+  agenda.Deadline("10/06/2024", "Memoria");
+  EXPECT_EQ(agenda.Entry("Data_Start, Data_End"), "21/05/2024|10/06/2024");
+}
+
 TEST(ScriviScadenza, ALongerDescriptionIsNotWritten) {
   AgendaFixture agenda;
   agenda.Deadline("10/06/2024", std::string(201, 'x'));

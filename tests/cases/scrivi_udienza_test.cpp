@@ -172,6 +172,17 @@ TEST(ScriviUdienza, DoublesAnApostropheInTheNumber) {
   EXPECT_EQ(agenda.Agenda("Codice_Pra"), (Texts{"6"}));
 }
 
+TEST(ScriviUdienza, ANameThatDoesNotFitCostsNeitherTheNumberNorTheTimeOfTheUpdate) {
+  AgendaFixture agenda;
+  agenda.office.Do("ALTER TABLE SCADENZE DROP COLUMN Responsabile");
+  agenda.office.Do("ALTER TABLE SCADENZE ADD COLUMN Responsabile NVARCHAR(10)");
+  agenda.Hearing("12/03/2026 09:30");
+  EXPECT_EQ(agenda.Entry("Scadenza, Ora, Responsabile, IdResponsabile, LastLocalUpdate"),
+            "UDIENZA|09:30|NULL|3|20/02/2026 09:15:30");
+  ASSERT_EQ(agenda.office.diagnostics.trapped.size(), 1U);
+  EXPECT_EQ(agenda.office.diagnostics.trapped[0].routine, "ScriviUdienza");
+}
+
 TEST(ScriviUdienza, AnErrorOfTheLastWriteIsAbsorbed) {
   AgendaFixture agenda;
   agenda.office.connection().FailOn("INSERT SCADENZE");

@@ -121,24 +121,26 @@ TEST_F(HistoryPlace, KeepsTheNumberOfPagesThatCannotBeRead) {
 }
 
 TEST_F(HistoryPlace, WithoutTheTotalsBeginBeforeItsEndRaisesASubscriptError) {
-  const Raised raised{9, TooFewParts(1, 2)};
+  const Raised raised{9,
+                      "Indice non incluso nell'intervallo: " +
+                          TotalNotRead("\"Lista(\" (DELSF4) non sta prima di \"voci)\" (DELSF5)")};
   EXPECT_EQ(RaisedBy([&] { ReadFrom("42voci)Lista(Foglio2su5\r\n"); }), raised);
   EXPECT_EQ(Now(), kBefore);
 }
 
 TEST_F(HistoryPlace, WithoutANumberInTheTotalRaisesATypeMismatch) {
   EXPECT_EQ(RaisedBy([&] { ReadFrom("Lista(voci)Foglio2su5\r\n"); }),
-            (Raised{13, "Tipo non corrispondente: \"\""}));
+            (Raised{13, "Tipo non corrispondente: " + TotalIs("")}));
   EXPECT_EQ(RaisedBy([&] { ReadFrom("Lista(moltevoci)Foglio2su5\r\n"); }),
-            (Raised{13, "Tipo non corrispondente: \"molte\""}));
+            (Raised{13, "Tipo non corrispondente: " + TotalIs("molte")}));
   EXPECT_EQ(RaisedBy([&] { ReadFrom("Lista(di\r\nLista(4voci)\r\n"); }),
-            (Raised{13, "Tipo non corrispondente: \"di\r\nLista(4\""}));
+            (Raised{13, "Tipo non corrispondente: " + TotalIs("di\r\nLista(4")}));
   EXPECT_EQ(Now(), kBefore);
 }
 
 TEST_F(HistoryPlace, WithATotalOverSixteenBitsRaisesAnOverflow) {
   EXPECT_EQ(RaisedBy([&] { ReadFrom("Lista(32768voci)Foglio2su5\r\n"); }),
-            (Raised{6, "Overflow: \"32768\""}));
+            (Raised{6, "Overflow: " + TotalIs("32768")}));
   EXPECT_EQ(Now(), kBefore);
 }
 

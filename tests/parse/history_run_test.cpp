@@ -130,10 +130,12 @@ TEST_F(HistoryRun, AStoppedImportOfAnotherKindForgetsNoPage) {
 }
 
 TEST_F(HistoryRun, AFaultInTheTotalIsRaisedByTheRecognition) {
-  EXPECT_EQ(RaisedBy([&] { Recognise("Storico del fascicolo\nvoci) Lista("); }),
-            (Raised{9, TooFewParts(1, 2)}));
+  EXPECT_EQ(
+      RaisedBy([&] { Recognise("Storico del fascicolo\nvoci) Lista("); }),
+      (Raised{9, "Indice non incluso nell'intervallo: " +
+                     TotalNotRead("\"Lista(\" (DELSF4) non sta prima di \"voci)\" (DELSF5)")}));
   EXPECT_EQ(RaisedBy([&] { Recognise("Storico del fascicolo\nLista(tante voci)"); }),
-            (Raised{13, "Tipo non corrispondente: \"tante\""}));
+            (Raised{13, "Tipo non corrispondente: " + TotalIs("tante")}));
 }
 
 TEST_F(HistoryRun, PagesOfOtherKindsLeaveThePlaceAlone) {

@@ -27,7 +27,16 @@ class PageBench : public ImportBench {
 // The words for a line that was cut into fewer parts than the rule needs.
 inline std::string TooFewParts(int has, int needs) {
   return "Indice non incluso nell'intervallo: la riga ha " + std::to_string(has) +
-         " parti, ne servono almeno " + std::to_string(needs);
+         (has == 1 ? " parte" : " parti") + ", ne servono almeno " + std::to_string(needs);
+}
+
+// The words for the total of a history that cannot be read.
+inline std::string TotalNotRead(const std::string& why) {
+  return "il totale degli eventi dello storico non si legge: " + why +
+         ". Copiare di nuovo la pagina, oppure correggere i due testi in \"MapDelimitatori.txt\"";
+}
+inline std::string TotalIs(const std::string& text) {
+  return TotalNotRead("tra \"Lista(\" (DELSF4) e \"voci)\" (DELSF5) sta \"" + text + "\"");
 }
 
 // --- agenda -------------------------------------------------------------------------------------

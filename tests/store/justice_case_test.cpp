@@ -141,6 +141,16 @@ TEST(JusticeCase, WithoutANumberOnThePageKeepsTheStoredOne) {
             "4417/2025");
 }
 
+// The hearing of the page then finds the case by that text.
+TEST(JusticeCase, CreatedWithoutANumberHoldsAnEmptyOne) {
+  JusticeRecord record;
+  record.page.szNumeroRG.clear();
+  ASSERT_TRUE(record.Create());
+  EXPECT_EQ(record.office.Row("SELECT TYPEOF(NumeroRegGenerale), NumeroRegGenerale FROM Pratica "
+                              "ORDER BY ID_Pra DESC LIMIT 1"),
+            "text|");
+}
+
 // --- failures -----------------------------------------------------------------------------------
 
 TEST(MovementThatFails, CostsNeitherTheOthersNorTheCase) {

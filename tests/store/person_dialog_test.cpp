@@ -145,18 +145,26 @@ TEST(EmailLink, AnAddressCannotCarryFurtherArgumentsIntoTheLink) {
             (Texts{"Open mailto:a@b.example%3Fcc%3Dx@y.example%26body%3Dciao%231"}));
 }
 
-TEST(EmailLink, BlanksQuotesPercentSignsLineEndsAndForeignLettersAreEscaped) {
+TEST(EmailLink, BlanksQuotesPercentSignsAndLineEndsAreEscaped) {
   PersonFixture person;
-  person.card.lblInfo2 = "a \"b\"%20\r\nè@c.example";
+  person.card.lblInfo2 = "a \"b\"%20\r\n@c.example";
   person.dialog.lblInfo2_Click();
-  EXPECT_EQ(person.desktop.events, (Texts{"Open mailto:a%20%22b%22%2520%0D%0A%C3%A8@c.example"}));
+  EXPECT_EQ(person.desktop.events, (Texts{"Open mailto:a%20%22b%22%2520%0D%0A@c.example"}));
 }
 
-TEST(EmailLink, SemicolonsSlashesAndColonsAreEscaped) {
+TEST(EmailLink, SignsOfACommandLineAreEscaped) {
   PersonFixture person;
-  person.card.lblInfo2 = "a;b:c/d\\e@f.example";
+  person.card.lblInfo2 = "a\\b|c<d>(e)`f^g@h.example";
   person.dialog.lblInfo2_Click();
-  EXPECT_EQ(person.desktop.events, (Texts{"Open mailto:a%3Bb%3Ac%2Fd%5Ce@f.example"}));
+  EXPECT_EQ(person.desktop.events,
+            (Texts{"Open mailto:a%5Cb%7Cc%3Cd%3E%28e%29%60f%5Eg@h.example"}));
+}
+
+TEST(EmailLink, TwoAddressesAndForeignLettersStayAsTheyStand) {
+  PersonFixture person;
+  person.card.lblInfo2 = "anna@posta.example;niccolò@posta.example";
+  person.dialog.lblInfo2_Click();
+  EXPECT_EQ(person.desktop.events, (Texts{"Open mailto:anna@posta.example;niccolò@posta.example"}));
 }
 
 }  // namespace

@@ -60,6 +60,13 @@ std::int32_t AsInt32(const Value& value) {
   throw MakeError(ErrorNumber::kTypeMismatch, "\"" + ToText(value) + "\" non è un numero intero");
 }
 
+DateTime AsDate(const Value& value) {
+  if (IsNull(value)) throw MakeError(ErrorNumber::kInvalidNull);
+  if (const auto* date = std::get_if<DateTime>(&value)) return *date;
+  if (const auto* text = std::get_if<std::string>(&value)) return ToDate(*text);
+  throw MakeError(ErrorNumber::kTypeMismatch, "\"" + ToText(value) + "\" non è una data");
+}
+
 bool ToBool(const Value& value) {
   if (IsNull(value)) return false;
   if (const auto* bit = std::get_if<bool>(&value)) return *bit;

@@ -26,6 +26,8 @@ inline bool IsNull(const Value& value) {
 std::string ToText(const Value& value);
 // Errors: invalid use of Null; type mismatch where the value is no whole number; overflow.
 std::int32_t AsInt32(const Value& value);
+// A date, or a text that reads as one, day first. Errors: invalid use of Null; type mismatch.
+DateTime AsDate(const Value& value);
 // A bit, or a number other than 0. Null counts as false. Error: type mismatch.
 bool ToBool(const Value& value);
 

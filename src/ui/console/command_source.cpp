@@ -13,7 +13,8 @@ std::optional<Command> CommandSource::Next() {
     if (line_ == 1 && line.starts_with("\xEF\xBB\xBF")) line.remove_prefix(3);
     if (line.ends_with('\r')) line.remove_suffix(1);
     line = TrimLeft(line);
-    if (line.starts_with('#') || (Trim(line).empty() && !Interactive())) continue;
+    const bool blank = line.find_first_not_of(" \t") == std::string_view::npos;
+    if (line.starts_with('#') || (blank && !Interactive())) continue;
     const auto halves = SplitOnce(line, " ");
     if (!halves) return Command{std::string(line), "", line_};
     return Command{std::string(halves->left), std::string(halves->right), line_};

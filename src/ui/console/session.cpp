@@ -41,11 +41,10 @@ bool IsOneOf(std::string_view word, std::initializer_list<std::string_view> word
 }
 
 ControlTexts TextsOf(const PersonCard& card) {
-  return {{"caption", card.caption},
-          {"lblInfo", card.lblInfo},
-          {"Label1", card.Label1},
-          {"lblInfo2", card.lblInfo2},
-          {"lblDomanda", card.lblDomanda}};
+  return {{"caption", card.caption},       {"lblInfo", card.lblInfo},
+          {"Label1", card.Label1},         {"lblInfo2", card.lblInfo2},
+          {"lblDomanda", card.lblDomanda}, {"cmdSi", card.cmdSi.caption},
+          {"cmdNo", card.cmdNo.caption}};
 }
 
 ControlTexts TextsOf(const PartiesForm& form) {
