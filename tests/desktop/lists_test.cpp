@@ -1,0 +1,1 @@
+#include "desk_test.h"
