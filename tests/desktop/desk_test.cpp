@@ -135,7 +135,8 @@ std::optional<EndReason> DeskTest::Ended() {
 
 ::testing::AssertionResult DeskTest::EndsAs(EndReason reason) {
   if (!WaitFor([this] { return desk_->window().ended().has_value(); })) {
-    return ::testing::AssertionFailure() << "it has not ended; " << OnMain([] { return WhatIsUp(); });
+    return ::testing::AssertionFailure()
+           << "it has not ended; " << OnMain([] { return WhatIsUp(); });
   }
   if (Ended() == reason) return ::testing::AssertionSuccess();
   return ::testing::AssertionFailure() << "it has ended as " << static_cast<int>(*Ended());

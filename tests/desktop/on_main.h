@@ -14,7 +14,7 @@
 namespace ordex::desktop_tests {
 
 // Generous, as it is reached only where a test fails: a busy machine must not fail one.
-inline constexpr std::chrono::seconds kLongest{4};
+inline constexpr std::chrono::seconds kLongest{30};
 inline constexpr std::chrono::milliseconds kPause{10};
 
 // What `ask` gives when the toolkit's thread comes to it. An error that it throws is thrown here.
