@@ -2,6 +2,7 @@
 // needs beyond this to start is its own.
 #include <wx/app.h>
 #include <wx/frame.h>
+#include <wx/panel.h>
 
 namespace {
 
@@ -12,7 +13,10 @@ class EmptyApp : public wxApp {
     frame->Bind(wxEVT_CHAR_HOOK, [frame](wxKeyEvent& event) {
       if (event.GetKeyCode() == WXK_ESCAPE) frame->Close();
     });
+    // A window without anything on it gets no keys.
+    auto* panel = new wxPanel(frame, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxWANTS_CHARS);
     frame->Show();
+    panel->SetFocus();
     return true;
   }
 };

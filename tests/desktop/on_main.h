@@ -4,6 +4,7 @@
 #pragma once
 
 #include <wx/app.h>
+#include <wx/thread.h>
 
 #include <chrono>
 #include <functional>
@@ -20,6 +21,7 @@ inline constexpr std::chrono::milliseconds kPause{10};
 // What `ask` gives when the toolkit's thread comes to it. An error that it throws is thrown here.
 template <typename Ask>
 auto OnMain(Ask ask) {
+  if (wxIsMainThread()) return ask();
   auto task = std::make_shared<std::packaged_task<decltype(ask())()>>(std::move(ask));
   auto answer = task->get_future();
   wxTheApp->CallAfter([task] { (*task)(); });
