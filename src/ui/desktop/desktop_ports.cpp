@@ -79,8 +79,6 @@ void DesktopPorts::ShowParties() {
   SetFocus(focus_);
   dialog.ShowModal();
   parties_ = nullptr;
-  // What the user has to choose next; it was shown only just before the dialog took the keys.
-  frame_->FocusOn("Cliente");
 }
 
 void DesktopPorts::SetFocus(std::string_view control) {
