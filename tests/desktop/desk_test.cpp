@@ -2,12 +2,15 @@
 
 #include <wx/button.h>
 #include <wx/clipbrd.h>
+#include <wx/evtloop.h>
 #include <wx/listctrl.h>
 #include <wx/statbmp.h>
 
 #include <cstring>
+#include <sstream>
 #include <stdexcept>
 
+#include "complaints.h"
 #include "database.h"
 #include "differences.h"
 #include "text_files.h"
@@ -44,6 +47,26 @@ std::string RowText(const wxListCtrl& list, long row) {
   return text;
 }
 
+// Ends the boxes and dialogs that a test leaves up. True once the act that showed them is over too:
+// it still works on the window.
+bool CloseBoxes() {
+  if (wxDialog* dialog = FrontDialog()) dialog->EndModal(wxID_CANCEL);
+  return wxEventLoopBase::GetActive() == wxTheApp->GetMainLoop();
+}
+
+std::string WhatIsUp() {
+  const wxDialog* dialog = FrontDialog();
+  if (dialog == nullptr) return "no box is up";
+  const std::optional<Box> box = FrontBox();
+  std::ostringstream text;
+  if (box) {
+    text << *box;
+  } else {
+    text << dialog->GetName().utf8_string() << " is up";
+  }
+  return text.str();
+}
+
 }  // namespace
 
 DeskTest::DeskTest()
@@ -51,15 +74,11 @@ DeskTest::DeskTest()
 
 void DeskTest::TearDown() {
   if (desk_ == nullptr) return;
-  OnMain([] {
-    while (wxDialog* dialog = FrontDialog()) {
-      dialog->EndModal(wxID_CANCEL);
-      break;
-    }
-  });
+  EXPECT_TRUE(WaitFor([] { return CloseBoxes(); }));
   OnMain([this] { desk_->Close(); });
   EXPECT_TRUE(WaitFor([this] { return frameGone_; }));
   OnMain([this] { desk_.reset(); });
+  for (const std::string& complaint : TakeComplaints()) ADD_FAILURE() << complaint;
 }
 
 void DeskTest::PutOnClipboard(const std::string& text) {
@@ -114,12 +133,26 @@ std::optional<EndReason> DeskTest::Ended() {
   return OnMain([this] { return desk_->window().ended(); });
 }
 
-bool DeskTest::EndsAs(EndReason reason) {
-  return WaitFor([this] { return desk_->window().ended().has_value(); }) && Ended() == reason;
+::testing::AssertionResult DeskTest::EndsAs(EndReason reason) {
+  if (!WaitFor([this] { return desk_->window().ended().has_value(); })) {
+    return ::testing::AssertionFailure()
+           << "it has not ended; " << OnMain([] { return WhatIsUp(); });
+  }
+  if (Ended() == reason) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << "it has ended as " << static_cast<int>(*Ended());
 }
 
-bool DeskTest::HasFocus(const wxWindow* control) {
-  return WaitFor([control] { return wxWindow::FindFocus() == control; });
+::testing::AssertionResult DeskTest::HasFocus(const wxWindow* control) {
+  const auto there = [control] {
+    wxWindow* focus = FocusedControl();
+    return focus != nullptr && (focus == control || control->IsDescendant(focus));
+  };
+  if (control != nullptr && WaitFor(there)) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << "the keys go to " << OnMain([] {
+           const wxWindow* focus = FocusedControl();
+           return focus == nullptr ? "nothing"
+                                   : (focus->GetName() + " " + focus->GetLabel()).utf8_string();
+         });
 }
 
 Box DeskTest::NextBox() {
@@ -138,8 +171,9 @@ wxDialog* DeskTest::NextDialog(const std::string& name) {
   return OnMain([&] { return there() ? FrontDialog() : nullptr; });
 }
 
-bool DeskTest::NoBox() {
-  return WaitFor([] { return FrontDialog() == nullptr; });
+::testing::AssertionResult DeskTest::NoBox() {
+  if (WaitFor([] { return FrontDialog() == nullptr; })) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << OnMain([] { return WhatIsUp(); });
 }
 
 std::string DeskTest::Title() {
@@ -237,7 +271,7 @@ Box NoCaseBox() {
           "Procedere con la creazione di una nuova pratica con i dati di OrdexWeb ?\n\n"
           "(N.B.: Verranno chieste altre informazioni!)",
           wxICON_QUESTION,
-          {"Sì", "No"}};
+          {"No", "Sì"}};
 }
 
 Box PenalBox() {

@@ -46,7 +46,7 @@ class DeskTest : public ::testing::Test {
   }
   std::optional<EndReason> Ended();
   // True once the program has ended so.
-  bool EndsAs(EndReason reason);
+  ::testing::AssertionResult EndsAs(EndReason reason);
 
   // A control that is seen in the window, by name or label; null where there is none.
   template <typename Control>
@@ -56,14 +56,14 @@ class DeskTest : public ::testing::Test {
     });
   }
   // True once the keys go to that control.
-  bool HasFocus(const wxWindow* control);
+  ::testing::AssertionResult HasFocus(const wxWindow* control);
 
   // The message box that comes up; fails the test where none does.
   Box NextBox();
   // The dialog of that name that comes up; null, and fails the test, where none does.
   wxDialog* NextDialog(const std::string& name);
   // True once no box or dialog is up.
-  bool NoBox();
+  ::testing::AssertionResult NoBox();
 
   std::string Title();
   wxRect Place();  // of the window on the screen, in pixels of which 96 make an inch

@@ -1,6 +1,8 @@
 #include "eyes.h"
 
+#include <gtk/gtk.h>
 #include <wx/button.h>
+#include <wx/frame.h>
 #include <wx/richmsgdlg.h>
 #include <wx/stattext.h>
 #include <wx/toplevel.h>
@@ -51,6 +53,35 @@ wxDialog* FrontDialog() {
   return front;
 }
 
+wxTopLevelWindow* FrontWindow() {
+  if (wxDialog* dialog = FrontDialog()) return dialog;
+  for (wxWindow* window : wxTopLevelWindows) {
+    auto* frame = dynamic_cast<wxFrame*>(window);
+    if (frame != nullptr && frame->IsShown()) return frame;
+  }
+  return nullptr;
+}
+
+wxWindow* FocusedControl() {
+  const wxTopLevelWindow* front = FrontWindow();
+  if (front == nullptr) return nullptr;
+  GtkWidget* focus = gtk_window_get_focus(GTK_WINDOW(front->GetHandle()));
+  wxWindow* found = nullptr;
+  for (wxWindow* control : ControlsOf(*front)) {
+    GtkWidget* widget = control->GetHandle();
+    const bool inside =
+        focus != nullptr && (focus == widget || gtk_widget_is_ancestor(focus, widget) != FALSE);
+    if (inside) found = control;  // what stands inside of others comes behind them
+  }
+  return found;
+}
+
+bool IsDroppedDown(const wxChoice& box) {
+  gboolean shown = FALSE;
+  g_object_get(box.GetHandle(), "popup-shown", &shown, nullptr);
+  return shown != FALSE;
+}
+
 std::ostream& operator<<(std::ostream& out, const Box& box) {
   out << "[" << box.title << "] " << box.text << " (icon " << std::hex << box.icon << std::dec
       << ")";
@@ -65,8 +96,19 @@ std::optional<Box> FrontBox() {
   if (dialog == nullptr) return std::nullopt;
   Box box;
   box.title = dialog->GetTitle().utf8_string();
-  for (const std::string& text : TextsOf(*dialog))
-    box.text += (box.text.empty() ? "" : "\n") + text;
+  // A line without letters is drawn as a gap.
+  int below = 0;
+  for (wxWindow* control : ControlsOf(*dialog)) {
+    const auto* text = dynamic_cast<wxStaticText*>(control);
+    if (text == nullptr || !text->IsShownOnScreen()) continue;
+    const wxRect place = text->GetRect();
+    for (int gap = place.y - below; !box.text.empty() && gap >= text->GetCharHeight();
+         gap -= text->GetCharHeight()) {
+      box.text += "\n";
+    }
+    box.text += (box.text.empty() ? "" : "\n") + text->GetLabelText().utf8_string();
+    below = place.GetBottom();
+  }
   box.icon = dialog->GetMessageDialogStyle() & kIcons;
   box.buttons = ButtonsOf(*dialog);
   return box;

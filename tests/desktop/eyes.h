@@ -2,6 +2,7 @@
 // is to be asked on the toolkit's thread.
 #pragma once
 
+#include <wx/choice.h>
 #include <wx/control.h>
 #include <wx/dialog.h>
 #include <wx/window.h>
@@ -39,6 +40,15 @@ std::vector<std::string> ButtonsOf(const wxWindow& top);
 
 // The modal window in front; null where there is none.
 wxDialog* FrontDialog();
+// That, or else the main window; null where neither is seen.
+wxTopLevelWindow* FrontWindow();
+
+// The control that the keys go to; null where there is none. The toolkit's own answer leaves out a
+// choice that was reached with the tab key.
+wxWindow* FocusedControl();
+
+// Whether the entries of a drop-down list are seen.
+bool IsDroppedDown(const wxChoice& box);
 
 struct Box {
   std::string title;

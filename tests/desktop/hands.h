@@ -5,12 +5,15 @@
 #include <wx/gdicmn.h>
 #include <wx/window.h>
 
+#include <cstdint>
 #include <string>
 
 namespace ordex::desktop_tests {
 
 // `key`: a WXK_ code or a letter; `modifiers`: wxMOD_ flags.
 void Press(int key, int modifiers = wxMOD_NONE);
+// The same in a window of another process, once the keys go there.
+void PressIn(std::int64_t handle, int key, int modifiers = wxMOD_NONE);
 // Letters without accents, digits, blanks and the signs of the plain keyboard.
 void Type(const std::string& text);
 void ClickAt(const wxPoint& screenPoint);

@@ -8,6 +8,7 @@
 #include <memory>
 #include <thread>
 
+#include "complaints.h"
 #include "ui/desktop/platform.h"
 #include "virtual_display.h"
 
@@ -41,6 +42,7 @@ int Run(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);
   if (::testing::GTEST_FLAG(list_tests)) return RUN_ALL_TESTS();
   const VirtualDisplay display;
+  KeepComplaints();
   desktop::PrepareDesktop();
   wxApp::SetInstance(new TestApp);
   return wxEntry(argc, argv);

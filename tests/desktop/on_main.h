@@ -4,6 +4,7 @@
 #pragma once
 
 #include <wx/app.h>
+#include <wx/thread.h>
 
 #include <chrono>
 #include <functional>
@@ -14,12 +15,13 @@
 namespace ordex::desktop_tests {
 
 // Generous, as it is reached only where a test fails: a busy machine must not fail one.
-inline constexpr std::chrono::seconds kLongest{60};
+inline constexpr std::chrono::seconds kLongest{30};
 inline constexpr std::chrono::milliseconds kPause{10};
 
 // What `ask` gives when the toolkit's thread comes to it. An error that it throws is thrown here.
 template <typename Ask>
 auto OnMain(Ask ask) {
+  if (wxIsMainThread()) return ask();
   auto task = std::make_shared<std::packaged_task<decltype(ask())()>>(std::move(ask));
   auto answer = task->get_future();
   wxTheApp->CallAfter([task] { (*task)(); });

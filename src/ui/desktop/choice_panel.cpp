@@ -3,6 +3,8 @@
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
+#include <algorithm>
+
 #include "ui/desktop/wx_text.h"
 
 namespace ordex::desktop {
@@ -11,10 +13,21 @@ namespace {
 constexpr int kGap = 4;
 constexpr int kUserWidth = 220;
 
+// Where entries have only been added the others stay: a choice that is emptied on the way loses the
+// focus.
+void DrawEntries(wxChoice& shown, const wxArrayString& texts) {
+  const wxArrayString there = shown.GetStrings();
+  if (there.size() > texts.size() || !std::equal(there.begin(), there.end(), texts.begin())) {
+    shown.Set(texts);
+    return;
+  }
+  for (std::size_t i = there.size(); i < texts.size(); ++i) shown.Append(texts[i]);
+}
+
 void DrawBox(wxChoice& shown, const ComboBox& box) {
   wxArrayString texts;
   for (const ComboBox::Item& item : box.items) texts.Add(Wx(item.text));
-  if (shown.GetStrings() != texts) shown.Set(texts);
+  DrawEntries(shown, texts);
   if (shown.GetSelection() != box.index) shown.SetSelection(box.index);
   if (shown.GetToolTipText() != Wx(box.toolTip)) shown.SetToolTip(Wx(box.toolTip));
 }

@@ -81,8 +81,10 @@ CommandBar::CommandBar(wxWindow* parent, const Commands& commands, const ActRunn
 }
 
 wxWindow* CommandBar::MakeBanner() {
-  auto* banner = new wxPanel(this);
+  // A panel would be a stop of the tab key, with nothing on it to act on.
+  auto* banner = new wxWindow(this, wxID_ANY);
   banner->SetName("HIWarning");
+  banner->DisableFocusFromKeyboard();
   banner->SetBackgroundColour(BannerColour());
   auto* text = new wxStaticText(banner, wxID_ANY, Wx(commands_.HIWarning.caption));
   text->SetForegroundColour(BannerTextColour());

@@ -93,7 +93,7 @@ void VirtualList::CopySelection() {
 }
 
 ReviewListCtrl::ReviewListCtrl(wxWindow* parent, const ReviewList& list, const ActRunner& run)
-    : VirtualList(parent, "lstImport", run), list_(list) {
+    : VirtualList(parent, "lstImport", run), list_(list), sorted_(list.sortKey, list.sortOrder) {
   wxVector<wxBitmapBundle> icons;
   icons.push_back(Icon("sort-ascending", kHeaderIconSide));
   icons.push_back(Icon("sort-descending", kHeaderIconSide));
@@ -110,6 +110,12 @@ void ReviewListCtrl::Draw() {
     const Column& column = list_.columns[static_cast<std::size_t>(place)];
     ShowColumn(place, column, place == kValueColumn);
     DrawIcon(place, column.icon);
+  }
+  const std::pair sorted(list_.sortKey, list_.sortOrder);
+  if (sorted_ != sorted) {
+    sorted_ = sorted;
+    // The toolkit remembers places, and other rows have come to stand there.
+    SetItemState(-1, 0, wxLIST_STATE_SELECTED);
   }
   ShowRows(list_.rows.size());
   if (GetToolTipText() != Wx(list_.toolTip)) SetToolTip(Wx(list_.toolTip));

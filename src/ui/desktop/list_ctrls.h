@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstddef>
+#include <utility>
 
 #include "state/review_list.h"
 #include "ui/desktop/acts.h"
@@ -37,12 +38,15 @@ class ReviewListCtrl : public VirtualList {
   ReviewListCtrl(wxWindow* parent, const ReviewList& list, const ActRunner& run);
   void Draw();
 
- private:
+ protected:
   wxString OnGetItemText(long row, long column) const override;
+
+ private:
   void DrawIcon(int place, int icon);
 
   const ReviewList& list_;
   std::array<int, 4> icons_{};
+  std::pair<int, SortOrder> sorted_;  // as drawn last
 };
 
 // lstAgendaAvv.

@@ -32,6 +32,7 @@ MainFrame::MainFrame(MainWindow& window, std::function<void()> onEnd)
   cmdPulisci_ = MakeFlatButton(header_, state.commands.cmdPulisci, "clear", run,
                                [](MainWindow& main) { main.PressPulisci(); });
   cmdPulisci_->SetName("Pulisci campi");
+  cmdPulisci_->MoveAfterInTabOrder(&header_->SearchBox());
   header_->SearchRow().Add(cmdPulisci_, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT, FromDIP(kGap));
   choice_ = new ChoicePanel(body, state.choice, run);
   commands_ = new CommandBar(body, state.commands, run);

@@ -1,0 +1,250 @@
+// Two starts of the built program: the second hands its page over to the first, raises its window
+// and ends.
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+#include <wx/clipbrd.h>
+#include <wx/frame.h>
+#include <wx/uiaction.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <list>
+#include <memory>
+#include <utility>
+
+#include "database.h"
+#include "desk_test.h"
+#include "program_run.h"
+#include "screen.h"
+
+namespace ordex::desktop_tests {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Optional;
+
+constexpr const char* kProfileTitle = "Ordex - profilo del fascicolo - dati generali";
+constexpr const char* kHistoryTitle = "Ordex - storico del fascicolo - elenco eventi";
+
+// The runtime folder of these tests' display.
+std::filesystem::path LinkFolder() {
+  return std::filesystem::path(std::getenv("XDG_RUNTIME_DIR")) / "ordex";
+}
+
+// A text on the clipboard that counts how often it is asked for, by whichever process.
+class WatchedText : public wxTextDataObject {
+ public:
+  WatchedText(const std::string& text, std::shared_ptr<int> asked)
+      : wxTextDataObject(wxString::FromUTF8(text)), asked_(std::move(asked)) {}
+
+  bool GetDataHere(const wxDataFormat& format, void* place) const override {
+    ++*asked_;
+    return wxTextDataObject::GetDataHere(format, place);
+  }
+
+ private:
+  std::shared_ptr<int> asked_;
+};
+
+// How much of a page that is handed over the first takes in.
+enum class Reads { kAll, kForItsKind };
+
+class HandOverTest : public ::testing::Test {
+ protected:
+  HandOverTest() : office_(ORDEX_SOURCE_DIR) {}
+
+  void Copy(const std::string& sample) {
+    OnMain([this, text = Sample(sample)] {
+      *asked_ = 0;
+      wxTheClipboard->Open();
+      wxTheClipboard->SetData(new WatchedText(text, asked_));
+      wxTheClipboard->Close();
+    });
+  }
+  ProgramRun& Start() { return runs_.emplace_back(office_); }
+  // The window of that title once it takes keys; 0, and fails the test, where none comes.
+  static std::int64_t NextWindow(const std::string& title) {
+    std::int64_t handle = 0;
+    EXPECT_TRUE(WaitFor([&] {
+      for (const ScreenWindow& window : WindowsOnScreen()) {
+        if (window.title == title && TakesKeys(window.handle)) handle = window.handle;
+      }
+      return handle != 0;
+    })) << title;
+    return handle;
+  }
+  static std::optional<int> EndOf(ProgramRun& run) {
+    WaitFor([&] { return run.Ended().has_value(); });
+    return run.Ended();
+  }
+  // Opens the first window on that page.
+  ProgramRun& Open(const std::string& sample, const std::string& title) {
+    Copy(sample);
+    ProgramRun& first = Start();
+    window_ = NextWindow(title);
+    // It asks once for the page's kind, and once for the page.
+    askedByFirst_ = OnMain([this] { return *asked_; });
+    EXPECT_GE(askedByFirst_, 2);
+    return first;
+  }
+  // A second start with that page on the clipboard, which must hand over and end. Returns once the
+  // first, which is not waited for by the second, has read of the page what it wants to read.
+  void HandOver(const std::string& sample, Reads reads = Reads::kAll) {
+    Copy(sample);
+    EXPECT_THAT(EndOf(Start()), Optional(0));
+    const int wanted = reads == Reads::kAll ? askedByFirst_ : askedByFirst_ / 2;
+    EXPECT_TRUE(WaitFor([&] { return *asked_ >= wanted; })) << "the first has not read the page";
+    Settle();
+  }
+  static std::vector<std::string> Titles() {
+    return OnMain([] {
+      std::vector<std::string> titles;
+      for (const ScreenWindow& window : WindowsOnScreen()) titles.push_back(window.title);
+      return titles;
+    });
+  }
+  std::vector<std::string> Rows(const std::string& select) const {
+    return sessions::QueryRows(office_.database(), select);
+  }
+
+  sessions::Workplace office_;
+  std::list<ProgramRun> runs_;
+  std::int64_t window_ = 0;
+  std::shared_ptr<int> asked_ = std::make_shared<int>(0);
+  int askedByFirst_ = 0;
+};
+
+TEST_F(HandOverTest, a_further_profile_is_taken_and_updated_by_the_first) {
+  ProgramRun& first = Open("profilo-contratto.txt", kProfileTitle);
+  HandOver("profilo-condominio.txt");
+  EXPECT_THAT(Titles(), ElementsAre(kProfileTitle));
+  EXPECT_EQ(NextWindow(kProfileTitle), window_);
+  PressIn(window_, WXK_RETURN);
+  const std::int64_t box = NextWindow("Pratica Praxion aggiornata");
+  EXPECT_THAT(Rows("SELECT ID_PraRel FROM PraOrdex"), ElementsAre("3"));
+  PressIn(box, WXK_RETURN);
+  EXPECT_THAT(EndOf(first), Optional(0));
+  EXPECT_THAT(Titles(), IsEmpty());
+  EXPECT_THAT(office_.Leftovers(), IsEmpty());
+}
+
+TEST_F(HandOverTest, a_further_history_is_added_to_the_first) {
+  ProgramRun& first = Open("storico-pagina-1.txt", kHistoryTitle);
+  HandOver("storico-pagina-2.txt");
+  EXPECT_THAT(Titles(), ElementsAre(kHistoryTitle));
+  // The search has the keys; the one hit is chosen with Return, then Return updates.
+  for (const char digit : std::string("1842")) PressIn(window_, digit);
+  for (int i = 0; i < 3; ++i) PressIn(window_, WXK_RETURN);
+  const std::int64_t box = NextWindow("Pratica Praxion aggiornata");
+  EXPECT_THAT(Rows("SELECT ID_PraRel, count(*), min(Progressivo), max(Progressivo) "
+                   "FROM EventiPraOrdex"),
+              ElementsAre("2|30|1|30"));
+  PressIn(box, WXK_RETURN);
+  EXPECT_THAT(EndOf(first), Optional(0));
+}
+
+TEST_F(HandOverTest, a_page_of_another_kind_leaves_the_work_of_the_first_alone) {
+  ProgramRun& first = Open("profilo-contratto.txt", kProfileTitle);
+  HandOver("agenda-settimana.txt", Reads::kForItsKind);
+  EXPECT_THAT(Titles(), ElementsAre(kProfileTitle));
+  EXPECT_EQ(first.Ended(), std::nullopt);
+  PressIn(window_, WXK_RETURN);
+  const std::int64_t box = NextWindow("Pratica Praxion aggiornata");
+  EXPECT_THAT(Rows("SELECT ID_PraRel FROM PraOrdex"), ElementsAre("2"));
+  PressIn(box, WXK_RETURN);
+  EXPECT_THAT(EndOf(first), Optional(0));
+}
+
+TEST_F(HandOverTest, an_unknown_page_ends_the_first_after_its_box) {
+  ProgramRun& first = Open("profilo-contratto.txt", kProfileTitle);
+  HandOver("not-a-page/sessione-scaduta.txt", Reads::kForItsKind);
+  PressIn(NextWindow("Praxion"), WXK_RETURN);
+  EXPECT_THAT(EndOf(first), Optional(3));
+  EXPECT_THAT(Titles(), IsEmpty());
+}
+
+TEST_F(HandOverTest, the_second_start_raises_the_window_of_the_first) {
+  Open("profilo-contratto.txt", kProfileTitle);
+  EXPECT_EQ(office_.Setting("Shared", "OrdexHandle"), std::to_string(window_));
+  wxFrame* other = OnMain([] {
+    auto* frame = new wxFrame(nullptr, wxID_ANY, "Un altro programma");
+    frame->Show();
+    frame->Raise();
+    return frame;
+  });
+  EXPECT_NE(NextWindow("Un altro programma"), 0);
+  HandOver("profilo-contratto.txt");
+  EXPECT_TRUE(WaitFor([this] { return TakesKeys(window_); }));
+  OnMain([=] { other->Destroy(); });
+}
+
+TEST_F(HandOverTest, of_ten_starts_at_once_one_window_is_left) {
+  Copy("profilo-contratto.txt");
+  for (int i = 0; i < 10; ++i) Start();
+  const auto running = [this] {
+    return std::count_if(runs_.begin(), runs_.end(),
+                         [](ProgramRun& run) { return !run.Ended().has_value(); });
+  };
+  EXPECT_TRUE(WaitFor([&] { return running() == 1; }));
+  window_ = NextWindow(kProfileTitle);
+  EXPECT_THAT(Titles(), ElementsAre(kProfileTitle));
+  EXPECT_EQ(running(), 1);
+  for (ProgramRun& run : runs_) EXPECT_EQ(run.Ended().value_or(0), 0);
+  // While it still takes pages in it takes no key.
+  EXPECT_TRUE(WaitFor([&] {
+    if (TakesKeys(window_)) wxUIActionSimulator().Char(WXK_ESCAPE);
+    return running() == 0;
+  }));
+  for (ProgramRun& run : runs_) EXPECT_EQ(run.Ended(), 0);
+}
+
+TEST_F(HandOverTest, after_a_first_that_was_killed_a_start_opens_a_window_again) {
+  ProgramRun& first = Open("profilo-contratto.txt", kProfileTitle);
+  first.Kill();
+  ASSERT_TRUE(WaitFor([] { return WindowsOnScreen().empty(); }));
+  ProgramRun& second = Start();
+  window_ = NextWindow(kProfileTitle);
+  EXPECT_EQ(second.Ended(), std::nullopt);
+  EXPECT_EQ(office_.Setting("Shared", "OrdexHandle"), std::to_string(window_));
+  // And it takes pages itself.
+  HandOver("profilo-condominio.txt");
+  PressIn(window_, WXK_RETURN);
+  NextWindow("Pratica Praxion aggiornata");
+  EXPECT_THAT(Rows("SELECT ID_PraRel FROM PraOrdex"), ElementsAre("3"));
+}
+
+TEST_F(HandOverTest, lock_and_link_are_open_to_the_user_alone) {
+  Open("profilo-contratto.txt", kProfileTitle);
+  const auto rights = [](const std::filesystem::path& path) {
+    struct stat found = {};
+    EXPECT_EQ(lstat(path.c_str(), &found), 0) << path;
+    return found.st_mode & 0777U;
+  };
+  EXPECT_EQ(rights(LinkFolder()), 0700U);
+  EXPECT_EQ(rights(LinkFolder() / "lock"), 0600U);
+  EXPECT_EQ(rights(LinkFolder() / "link") & 0077U, 0U);
+}
+
+TEST_F(HandOverTest, a_folder_that_others_may_enter_is_refused) {
+  std::filesystem::create_directories(LinkFolder());
+  std::filesystem::permissions(LinkFolder(), std::filesystem::perms::all);
+  Copy("profilo-contratto.txt");
+  ProgramRun& run = Start();
+  PressIn(NextWindow("Ordex"), WXK_RETURN);
+  EXPECT_THAT(EndOf(run), Optional(4));
+  std::filesystem::remove_all(LinkFolder());
+}
+
+TEST_F(HandOverTest, a_window_that_is_closed_gives_the_user_back_and_keeps_its_handle) {
+  ProgramRun& run = Open("profilo-contratto.txt", kProfileTitle);
+  EXPECT_EQ(office_.Setting("Shared", "Id_Utente"), "7");
+  PressIn(window_, WXK_ESCAPE);
+  EXPECT_THAT(EndOf(run), Optional(0));
+  EXPECT_EQ(office_.Setting("Shared", "Id_Utente"), "-1");
+  EXPECT_EQ(office_.Setting("Shared", "OrdexHandle"), std::to_string(window_));
+  EXPECT_THAT(Rows("SELECT count(*) FROM PraOrdex"), ElementsAre("0"));
+}
+
+}  // namespace
+}  // namespace ordex::desktop_tests
