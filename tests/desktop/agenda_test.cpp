@@ -21,7 +21,7 @@ Box WrittenBox() {
 
 using AgendaTest = DeskTest;
 
-TEST_F(AgendaTest, return_writes_the_entries_and_the_window_stays) {
+TEST_F(AgendaTest, ReturnWritesTheEntriesAndTheWindowStays) {
   Open("agenda-settimana.txt");
   Press(WXK_RETURN);
   EXPECT_EQ(NextBox(), WrittenBox());
@@ -39,7 +39,7 @@ TEST_F(AgendaTest, return_writes_the_entries_and_the_window_stays) {
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(AgendaTest, a_second_press_writes_nothing_twice) {
+TEST_F(AgendaTest, ASecondPressWritesNothingTwice) {
   Open("agenda-settimana.txt");
   for (int press = 0; press < 2; ++press) {
     Click(Find<wxButton>("Aggiorna"));
@@ -51,7 +51,7 @@ TEST_F(AgendaTest, a_second_press_writes_nothing_twice) {
   EXPECT_EQ(Ended(), std::nullopt);
 }
 
-TEST_F(AgendaTest, case_rows_are_bold_and_entries_dark_red) {
+TEST_F(AgendaTest, CaseRowsAreBoldAndEntriesDarkRed) {
   Open("agenda-settimana.txt");
   const auto* list = Find<wxListCtrl>("lstAgendaAvv");
   EXPECT_TRUE(OnMain([=] { return list->GetItemFont(0).GetWeight() == wxFONTWEIGHT_BOLD; }));
@@ -65,7 +65,7 @@ TEST_F(AgendaTest, case_rows_are_bold_and_entries_dark_red) {
             "#C00000");
 }
 
-TEST_F(AgendaTest, a_click_on_a_row_tells_it_whole_as_tool_tip) {
+TEST_F(AgendaTest, AClickOnARowTellsItWholeAsToolTip) {
   Open("agenda-settimana.txt");
   const auto* list = Find<wxListCtrl>("lstAgendaAvv");
   ClickRow(list, 1);
@@ -75,7 +75,7 @@ TEST_F(AgendaTest, a_click_on_a_row_tells_it_whole_as_tool_tip) {
 }
 
 // Its rows belong together: the entries stand under their case.
-TEST_F(AgendaTest, a_click_on_a_header_leaves_the_rows_where_they_are) {
+TEST_F(AgendaTest, AClickOnAHeaderLeavesTheRowsWhereTheyAre) {
   Open("agenda-settimana.txt");
   const std::vector<std::string> before = RowsOf("lstAgendaAvv");
   ASSERT_EQ(before.size(), 33U);
@@ -86,7 +86,7 @@ TEST_F(AgendaTest, a_click_on_a_header_leaves_the_rows_where_they_are) {
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(AgendaTest, return_in_the_list_presses_the_button) {
+TEST_F(AgendaTest, ReturnInTheListPressesTheButton) {
   Open("agenda-settimana.txt");
   ClickRow(Find<wxListCtrl>("lstAgendaAvv"), 2);
   Press(WXK_RETURN);
@@ -94,7 +94,7 @@ TEST_F(AgendaTest, return_in_the_list_presses_the_button) {
   EXPECT_THAT(Rows("SELECT count(*) FROM SCADENZE"), ElementsAre("25"));
 }
 
-TEST_F(AgendaTest, copied_rows_lie_on_the_clipboard_with_tabs_between_the_cells) {
+TEST_F(AgendaTest, CopiedRowsLieOnTheClipboardWithTabsBetweenTheCells) {
   Open("agenda-settimana.txt");
   ClickRow(Find<wxListCtrl>("lstAgendaAvv"), 0);
   Press(WXK_DOWN, wxMOD_SHIFT);
@@ -104,7 +104,7 @@ TEST_F(AgendaTest, copied_rows_lie_on_the_clipboard_with_tabs_between_the_cells)
             "    10/03/2026\t    Citazione dei testimoni: termine per l'intimazione\r\n");
 }
 
-TEST_F(AgendaTest, a_further_agenda_is_refused) {
+TEST_F(AgendaTest, AFurtherAgendaIsRefused) {
   Open("agenda-settimana.txt");
   HandOver("agenda-vuota.txt");
   EXPECT_EQ(StatusText(), "Completare l'operazione corrente oppure chiudere il programma.");

@@ -14,7 +14,7 @@ using ::testing::IsEmpty;
 
 using CommandsTest = DeskTest;
 
-TEST_F(CommandsTest, clear_empties_the_header_and_waits_for_another_case) {
+TEST_F(CommandsTest, ClearEmptiesTheHeaderAndWaitsForAnotherCase) {
   Open("profilo-contratto.txt");
   Click(Find<wxButton>("Pulisci campi"));
   EXPECT_EQ(Action(), "Crea");
@@ -27,7 +27,7 @@ TEST_F(CommandsTest, clear_empties_the_header_and_waits_for_another_case) {
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(CommandsTest, clear_on_a_history_page_only_empties_the_header) {
+TEST_F(CommandsTest, ClearOnAHistoryPageOnlyEmptiesTheHeader) {
   Open("storico-pagina-1.txt");
   Type("1842/2025");
   Press(WXK_RETURN);
@@ -47,7 +47,7 @@ TEST_F(CommandsTest, clear_on_a_history_page_only_empties_the_header) {
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(CommandsTest, the_close_button_closes_and_gives_the_user_back) {
+TEST_F(CommandsTest, TheCloseButtonClosesAndGivesTheUserBack) {
   Open("profilo-contratto.txt");
   EXPECT_EQ(office_.Setting("Shared", "Id_Utente"), "7");
   Click(Find<wxButton>("Chiudi"));
@@ -56,20 +56,20 @@ TEST_F(CommandsTest, the_close_button_closes_and_gives_the_user_back) {
   EXPECT_THAT(Rows("SELECT count(*) FROM PraOrdex"), ElementsAre("0"));
 }
 
-TEST_F(CommandsTest, the_mnemonic_closes) {
+TEST_F(CommandsTest, TheMnemonicCloses) {
   Open("profilo-contratto.txt");
   Press('C', wxMOD_ALT);
   EXPECT_TRUE(EndsAs(EndReason::kClosed));
 }
 
-TEST_F(CommandsTest, escape_closes) {
+TEST_F(CommandsTest, EscapeCloses) {
   Open("agenda-settimana.txt");
   Press(WXK_ESCAPE);
   EXPECT_TRUE(EndsAs(EndReason::kClosed));
   EXPECT_EQ(office_.Setting("Shared", "Id_Utente"), "-1");
 }
 
-TEST_F(CommandsTest, escape_closes_while_a_create_is_pending_too) {
+TEST_F(CommandsTest, EscapeClosesWhileACreateIsPendingToo) {
   Open("profilo-lavoro.txt");
   Press(WXK_RETURN);
   EXPECT_EQ(NextBox(), NoCaseBox());
@@ -80,14 +80,14 @@ TEST_F(CommandsTest, escape_closes_while_a_create_is_pending_too) {
   EXPECT_THAT(Rows("SELECT count(*) FROM Pratica"), ElementsAre("10"));
 }
 
-TEST_F(CommandsTest, the_window_manager_closes) {
+TEST_F(CommandsTest, TheWindowManagerCloses) {
   Open("profilo-contratto.txt");
   Press(WXK_F4, wxMOD_ALT);
   EXPECT_TRUE(EndsAs(EndReason::kClosed));
   EXPECT_EQ(office_.Setting("Shared", "Id_Utente"), "-1");
 }
 
-TEST_F(CommandsTest, the_tab_key_goes_through_the_window_from_top_to_bottom) {
+TEST_F(CommandsTest, TheTabKeyGoesThroughTheWindowFromTopToBottom) {
   Open("profilo-contratto.txt");
   OnMain([search = Find<wxTextCtrl>("ctlTestata1")] { search->SetFocus(); });
   std::vector<std::string> stops;

@@ -51,7 +51,7 @@ class CreateTest : public DeskTest {
   wxChoice* utente_ = nullptr;
 };
 
-TEST_F(CreateTest, the_first_press_shows_the_choices_and_asks_to_confirm) {
+TEST_F(CreateTest, TheFirstPressShowsTheChoicesAndAsksToConfirm) {
   AgreeToCreate();
   EXPECT_EQ(Action(), "Conferma");
   EXPECT_EQ(ActionSymbol(), 1);
@@ -60,7 +60,7 @@ TEST_F(CreateTest, the_first_press_shows_the_choices_and_asks_to_confirm) {
   EXPECT_EQ(Height(), 288);
 }
 
-TEST_F(CreateTest, no_to_the_question_gives_the_focus_back_to_the_search) {
+TEST_F(CreateTest, NoToTheQuestionGivesTheFocusBackToTheSearch) {
   Open("profilo-lavoro.txt");
   Press(WXK_RETURN);
   EXPECT_EQ(NextBox(), NoCaseBox());
@@ -74,7 +74,7 @@ TEST_F(CreateTest, no_to_the_question_gives_the_focus_back_to_the_search) {
 }
 
 // Neither answer of a Yes/No question means that it was taken back.
-TEST_F(CreateTest, escape_does_not_answer_the_question_but_the_mnemonic_does) {
+TEST_F(CreateTest, EscapeDoesNotAnswerTheQuestionButTheMnemonicDoes) {
   Open("profilo-lavoro.txt");
   Press(WXK_RETURN);
   EXPECT_EQ(NextBox(), NoCaseBox());
@@ -86,7 +86,7 @@ TEST_F(CreateTest, escape_does_not_answer_the_question_but_the_mnemonic_does) {
   EXPECT_EQ(Ended(), std::nullopt);
 }
 
-TEST_F(CreateTest, without_a_counterpart_nothing_is_created) {
+TEST_F(CreateTest, WithoutACounterpartNothingIsCreated) {
   AgreeToCreate();
   Choose(cliente_, 0);
   Click(Find<wxButton>("Conferma"));
@@ -98,7 +98,7 @@ TEST_F(CreateTest, without_a_counterpart_nothing_is_created) {
   EXPECT_EQ(Action(), "Conferma");
 }
 
-TEST_F(CreateTest, a_known_client_is_shown_and_linked_and_the_case_created) {
+TEST_F(CreateTest, AKnownClientIsShownAndLinkedAndTheCaseCreated) {
   AgreeToCreate();
   Choose(cliente_, 0);
   EXPECT_EQ(Shown(cliente_), "D'AMICO LUCA");
@@ -121,7 +121,7 @@ TEST_F(CreateTest, a_known_client_is_shown_and_linked_and_the_case_created) {
   EXPECT_EQ(office_.Setting("Shared", "Id_Utente"), "-1");
 }
 
-TEST_F(CreateTest, a_client_that_is_not_linked_is_made_anew) {
+TEST_F(CreateTest, AClientThatIsNotLinkedIsMadeAnew) {
   AgreeToCreate();
   Choose(cliente_, 0);
   Choose(controparte_, 1);
@@ -135,7 +135,7 @@ TEST_F(CreateTest, a_client_that_is_not_linked_is_made_anew) {
               ElementsAre("D'AMICO|LUCA"));
 }
 
-TEST_F(CreateTest, the_party_that_is_the_client_already_clears_the_counterpart) {
+TEST_F(CreateTest, ThePartyThatIsTheClientAlreadyClearsTheCounterpart) {
   AgreeToCreate();
   Choose(cliente_, 1);
   Choose(controparte_, 1);
@@ -144,7 +144,7 @@ TEST_F(CreateTest, the_party_that_is_the_client_already_clears_the_counterpart) 
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(CreateTest, the_boxes_can_be_chosen_with_the_keyboard_alone) {
+TEST_F(CreateTest, TheBoxesCanBeChosenWithTheKeyboardAlone) {
   AgreeToCreate();
   // From the button in front of the choices the tab key must reach them.
   for (int tabs = 0; tabs < 20 && OnMain(FocusedControl) != cliente_; ++tabs) {
@@ -169,7 +169,7 @@ TEST_F(CreateTest, the_boxes_can_be_chosen_with_the_keyboard_alone) {
   EXPECT_NE(NextDialog("frmInfoAnagrafica"), nullptr);
 }
 
-TEST_F(CreateTest, cancel_takes_the_pending_create_back) {
+TEST_F(CreateTest, CancelTakesThePendingCreateBack) {
   AgreeToCreate();
   Press(WXK_DOWN);
   ASSERT_EQ(Shown(cliente_), "D'AMICO LUCA");

@@ -39,7 +39,7 @@ class DetailsTest : public DeskTest {
   }
 };
 
-TEST_F(DetailsTest, open_at_6555_twips_and_close_at_4320) {
+TEST_F(DetailsTest, OpenAt6555TwipsAndCloseAt4320) {
   Open("profilo-contratto.txt");
   EXPECT_EQ(ToolTip(), "Mostra i dettagli");
   Click(Toggle());
@@ -63,7 +63,7 @@ TEST_F(DetailsTest, open_at_6555_twips_and_close_at_4320) {
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(DetailsTest, open_with_the_mnemonic) {
+TEST_F(DetailsTest, OpenWithTheMnemonic) {
   Open("storico-unica.txt");
   Press('D', wxMOD_ALT);
   EXPECT_TRUE(IsHigh(437));
@@ -71,7 +71,7 @@ TEST_F(DetailsTest, open_with_the_mnemonic) {
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(DetailsTest, open_with_the_space_bar) {
+TEST_F(DetailsTest, OpenWithTheSpaceBar) {
   Open("profilo-contratto.txt");
   OnMain([toggle = Toggle()] { toggle->SetFocus(); });
   Press(' ');
@@ -81,7 +81,7 @@ TEST_F(DetailsTest, open_with_the_space_bar) {
 }
 
 // The agenda opens at 6555 with the toggle down. Only from exactly 4320 the press leads to 2050.
-TEST_F(DetailsTest, of_an_agenda_go_from_6555_to_4320_to_2050_and_back) {
+TEST_F(DetailsTest, OfAnAgendaGoFrom6555To4320To2050AndBack) {
   Open("agenda-settimana.txt");
   EXPECT_TRUE(Pressed());
   EXPECT_EQ(ToolTip(), "Mostra i dettagli");
@@ -103,7 +103,7 @@ TEST_F(DetailsTest, of_an_agenda_go_from_6555_to_4320_to_2050_and_back) {
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(DetailsTest, stay_open_beside_the_choice_of_the_parties) {
+TEST_F(DetailsTest, StayOpenBesideTheChoiceOfTheParties) {
   Open("profilo-lavoro.txt");
   Press('D', wxMOD_ALT);
   ASSERT_TRUE(IsHigh(437));

@@ -115,7 +115,7 @@ class HandOverTest : public ::testing::Test {
   int askedByFirst_ = 0;
 };
 
-TEST_F(HandOverTest, a_further_profile_is_taken_and_updated_by_the_first) {
+TEST_F(HandOverTest, AFurtherProfileIsTakenAndUpdatedByTheFirst) {
   ProgramRun& first = Open("profilo-contratto.txt", kProfileTitle);
   HandOver("profilo-condominio.txt");
   EXPECT_THAT(Titles(), ElementsAre(kProfileTitle));
@@ -129,7 +129,7 @@ TEST_F(HandOverTest, a_further_profile_is_taken_and_updated_by_the_first) {
   EXPECT_THAT(office_.Leftovers(), IsEmpty());
 }
 
-TEST_F(HandOverTest, a_further_history_is_added_to_the_first) {
+TEST_F(HandOverTest, AFurtherHistoryIsAddedToTheFirst) {
   ProgramRun& first = Open("storico-pagina-1.txt", kHistoryTitle);
   HandOver("storico-pagina-2.txt");
   EXPECT_THAT(Titles(), ElementsAre(kHistoryTitle));
@@ -144,7 +144,7 @@ TEST_F(HandOverTest, a_further_history_is_added_to_the_first) {
   EXPECT_THAT(EndOf(first), Optional(0));
 }
 
-TEST_F(HandOverTest, a_page_of_another_kind_leaves_the_work_of_the_first_alone) {
+TEST_F(HandOverTest, APageOfAnotherKindLeavesTheWorkOfTheFirstAlone) {
   ProgramRun& first = Open("profilo-contratto.txt", kProfileTitle);
   HandOver("agenda-settimana.txt", Reads::kForItsKind);
   EXPECT_THAT(Titles(), ElementsAre(kProfileTitle));
@@ -156,7 +156,7 @@ TEST_F(HandOverTest, a_page_of_another_kind_leaves_the_work_of_the_first_alone) 
   EXPECT_THAT(EndOf(first), Optional(0));
 }
 
-TEST_F(HandOverTest, an_unknown_page_ends_the_first_after_its_box) {
+TEST_F(HandOverTest, AnUnknownPageEndsTheFirstAfterItsBox) {
   ProgramRun& first = Open("profilo-contratto.txt", kProfileTitle);
   HandOver("not-a-page/sessione-scaduta.txt", Reads::kForItsKind);
   PressIn(NextWindow("Praxion"), WXK_RETURN);
@@ -164,7 +164,7 @@ TEST_F(HandOverTest, an_unknown_page_ends_the_first_after_its_box) {
   EXPECT_THAT(Titles(), IsEmpty());
 }
 
-TEST_F(HandOverTest, the_second_start_raises_the_window_of_the_first) {
+TEST_F(HandOverTest, TheSecondStartRaisesTheWindowOfTheFirst) {
   Open("profilo-contratto.txt", kProfileTitle);
   EXPECT_EQ(office_.Setting("Shared", "OrdexHandle"), std::to_string(window_));
   wxFrame* other = OnMain([] {
@@ -179,7 +179,7 @@ TEST_F(HandOverTest, the_second_start_raises_the_window_of_the_first) {
   OnMain([=] { other->Destroy(); });
 }
 
-TEST_F(HandOverTest, of_ten_starts_at_once_one_window_is_left) {
+TEST_F(HandOverTest, OfTenStartsAtOnceOneWindowIsLeft) {
   Copy("profilo-contratto.txt");
   for (int i = 0; i < 10; ++i) Start();
   const auto running = [this] {
@@ -199,7 +199,7 @@ TEST_F(HandOverTest, of_ten_starts_at_once_one_window_is_left) {
   for (ProgramRun& run : runs_) EXPECT_EQ(run.Ended(), 0);
 }
 
-TEST_F(HandOverTest, after_a_first_that_was_killed_a_start_opens_a_window_again) {
+TEST_F(HandOverTest, AfterAFirstThatWasKilledAStartOpensAWindowAgain) {
   ProgramRun& first = Open("profilo-contratto.txt", kProfileTitle);
   first.Kill();
   ASSERT_TRUE(WaitFor([] { return WindowsOnScreen().empty(); }));
@@ -214,7 +214,7 @@ TEST_F(HandOverTest, after_a_first_that_was_killed_a_start_opens_a_window_again)
   EXPECT_THAT(Rows("SELECT ID_PraRel FROM PraOrdex"), ElementsAre("3"));
 }
 
-TEST_F(HandOverTest, lock_and_link_are_open_to_the_user_alone) {
+TEST_F(HandOverTest, LockAndLinkAreOpenToTheUserAlone) {
   Open("profilo-contratto.txt", kProfileTitle);
   const auto rights = [](const std::filesystem::path& path) {
     struct stat found = {};
@@ -226,7 +226,7 @@ TEST_F(HandOverTest, lock_and_link_are_open_to_the_user_alone) {
   EXPECT_EQ(rights(LinkFolder() / "link") & 0077U, 0U);
 }
 
-TEST_F(HandOverTest, a_folder_that_others_may_enter_is_refused) {
+TEST_F(HandOverTest, AFolderThatOthersMayEnterIsRefused) {
   std::filesystem::create_directories(LinkFolder());
   std::filesystem::permissions(LinkFolder(), std::filesystem::perms::all);
   Copy("profilo-contratto.txt");
@@ -236,7 +236,7 @@ TEST_F(HandOverTest, a_folder_that_others_may_enter_is_refused) {
   std::filesystem::remove_all(LinkFolder());
 }
 
-TEST_F(HandOverTest, a_window_that_is_closed_gives_the_user_back_and_keeps_its_handle) {
+TEST_F(HandOverTest, AWindowThatIsClosedGivesTheUserBackAndKeepsItsHandle) {
   ProgramRun& run = Open("profilo-contratto.txt", kProfileTitle);
   EXPECT_EQ(office_.Setting("Shared", "Id_Utente"), "7");
   PressIn(window_, WXK_ESCAPE);

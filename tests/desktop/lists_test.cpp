@@ -54,7 +54,7 @@ class ListsTest : public DeskTest {
   }
 };
 
-TEST_F(ListsTest, three_clicks_on_a_header_sort_up_down_and_up) {
+TEST_F(ListsTest, ThreeClicksOnAHeaderSortUpDownAndUp) {
   const wxListCtrl* list = OpenWithDetails("storico-unica.txt");
   ASSERT_EQ(Order(), "1 2 3 4 5 6 7 ");
   EXPECT_EQ(Icons(list), "----");
@@ -71,7 +71,7 @@ TEST_F(ListsTest, three_clicks_on_a_header_sort_up_down_and_up) {
   EXPECT_EQ(Icons(list), "--a-");
 }
 
-TEST_F(ListsTest, a_click_on_another_header_takes_its_mark_over) {
+TEST_F(ListsTest, AClickOnAnotherHeaderTakesItsMarkOver) {
   const wxListCtrl* list = OpenWithDetails("storico-unica.txt");
   ClickHeader(list, 2);
   ClickHeader(list, 1);
@@ -80,7 +80,7 @@ TEST_F(ListsTest, a_click_on_another_header_takes_its_mark_over) {
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(ListsTest, a_click_on_a_row_tells_its_value_whole_also_when_sorted) {
+TEST_F(ListsTest, AClickOnARowTellsItsValueWholeAlsoWhenSorted) {
   const wxListCtrl* list = OpenWithDetails("storico-unica.txt");
   const auto toolTip = [=] { return OnMain([=] { return list->GetToolTipText().utf8_string(); }); };
   ClickRow(list, 2);
@@ -93,7 +93,7 @@ TEST_F(ListsTest, a_click_on_a_row_tells_its_value_whole_also_when_sorted) {
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(ListsTest, copied_rows_lie_on_the_clipboard_in_the_order_shown) {
+TEST_F(ListsTest, CopiedRowsLieOnTheClipboardInTheOrderShown) {
   const wxListCtrl* list = OpenWithDetails("storico-unica.txt");
   ClickHeader(list, 1);
   ClickRow(list, 0);
@@ -104,20 +104,20 @@ TEST_F(ListsTest, copied_rows_lie_on_the_clipboard_in_the_order_shown) {
             "5\t14/01/2025\tIspezione del cortile, presenti l'amministratore e D'AGNOLO\t1/1\r\n");
 }
 
-TEST_F(ListsTest, return_in_the_list_updates) {
+TEST_F(ListsTest, ReturnInTheListUpdates) {
   ClickRow(OpenWithDetails("profilo-contratto.txt"), 1);
   Press(WXK_RETURN);
   EXPECT_EQ(NextBox(), UpdatedBox());
   EXPECT_THAT(Rows("SELECT count(*) FROM PraOrdex"), ElementsAre("1"));
 }
 
-TEST_F(ListsTest, escape_in_the_list_closes) {
+TEST_F(ListsTest, EscapeInTheListCloses) {
   ClickRow(OpenWithDetails("profilo-contratto.txt"), 1);
   Press(WXK_ESCAPE);
   EXPECT_TRUE(EndsAs(EndReason::kClosed));
 }
 
-TEST_F(ListsTest, a_history_of_a_hundred_thousand_events_opens_and_scrolls_to_its_end) {
+TEST_F(ListsTest, AHistoryOfAHundredThousandEventsOpensAndScrollsToItsEnd) {
   constexpr int kEvents = 100'000;
   std::ostringstream events;
   for (int i = 1; i <= kEvents; ++i) events << i << "\t14/01/2025\tAtto numero " << i << "\n";
@@ -156,7 +156,7 @@ class WatchedList : public desktop::ReviewListCtrl {
   mutable std::set<long> asked_;
 };
 
-TEST(ReviewListCtrlTest, of_a_hundred_thousand_rows_only_those_in_view_are_asked_for) {
+TEST(ReviewListCtrlTest, OfAHundredThousandRowsOnlyThoseInViewAreAskedFor) {
   constexpr long kRows = 100'000;
   ReviewList state;
   for (long row = 0; row < kRows; ++row) {

@@ -58,7 +58,7 @@ class OpeningTest : public DeskTest {
   }
 };
 
-TEST_F(OpeningTest, a_profile_page_of_one_case_opens_ready_to_update_it) {
+TEST_F(OpeningTest, AProfilePageOfOneCaseOpensReadyToUpdateIt) {
   Open("profilo-contratto.txt");
   EXPECT_EQ(Title(), "Ordex - profilo del fascicolo - dati generali");
   EXPECT_EQ(Height(), 288);  // 4320 twips
@@ -77,7 +77,7 @@ TEST_F(OpeningTest, a_profile_page_of_one_case_opens_ready_to_update_it) {
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(OpeningTest, a_profile_page_without_a_case_offers_to_create_one) {
+TEST_F(OpeningTest, AProfilePageWithoutACaseOffersToCreateOne) {
   Open("profilo-lavoro.txt");
   EXPECT_EQ(Height(), 288);
   EXPECT_EQ(StatusText(),
@@ -89,7 +89,7 @@ TEST_F(OpeningTest, a_profile_page_without_a_case_offers_to_create_one) {
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(OpeningTest, a_profile_page_of_two_cases_shows_the_first_and_counts_both) {
+TEST_F(OpeningTest, AProfilePageOfTwoCasesShowsTheFirstAndCountsBoth) {
   Open("profilo-condominio.txt");
   EXPECT_EQ(StatusText(),
             "Sono state trovate 2 pratiche sulla base del N. Registro Generale : 907/2024");
@@ -99,7 +99,7 @@ TEST_F(OpeningTest, a_profile_page_of_two_cases_shows_the_first_and_counts_both)
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(OpeningTest, a_history_page_waits_for_a_case_with_its_button_disabled) {
+TEST_F(OpeningTest, AHistoryPageWaitsForACaseWithItsButtonDisabled) {
   Open("storico-pagina-1.txt");
   EXPECT_EQ(Title(), "Ordex - storico del fascicolo - elenco eventi");
   EXPECT_EQ(Height(), 288);
@@ -119,7 +119,7 @@ TEST_F(OpeningTest, a_history_page_waits_for_a_case_with_its_button_disabled) {
   EXPECT_EQ(Ended(), std::nullopt);
 }
 
-TEST_F(OpeningTest, the_agenda_opens_at_its_design_height_with_its_list_in_sight) {
+TEST_F(OpeningTest, TheAgendaOpensAtItsDesignHeightWithItsListInSight) {
   Open("agenda-settimana.txt");
   EXPECT_EQ(Title(), "Ordex - agenda dell'avvocato - impegni del periodo");
   EXPECT_EQ(Height(), 437);  // 6555 twips
@@ -142,15 +142,14 @@ TEST_F(OpeningTest, the_agenda_opens_at_its_design_height_with_its_list_in_sight
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(OpeningTest, an_agenda_without_entries_says_so) {
+TEST_F(OpeningTest, AnAgendaWithoutEntriesSaysSo) {
   Open("agenda-vuota.txt");
   EXPECT_EQ(StatusText(), "0 nell'Agenda di Praxion.");
   EXPECT_THAT(RowsOf("lstAgendaAvv"), IsEmpty());
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(OpeningTest,
-       a_justice_of_the_peace_page_opens_like_a_profile_with_its_number_in_the_search) {
+TEST_F(OpeningTest, AJusticeOfThePeacePageOpensLikeAProfileWithItsNumberInTheSearch) {
   Open("giudice-di-pace-sinistro.txt");
   EXPECT_EQ(Title(), "Ordex - giudice di pace - scheda del procedimento");
   EXPECT_EQ(Height(), 288);
@@ -166,7 +165,7 @@ TEST_F(OpeningTest,
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(OpeningTest, a_justice_of_the_peace_page_finds_its_case) {
+TEST_F(OpeningTest, AJusticeOfThePeacePageFindsItsCase) {
   Open("giudice-di-pace-opposizione.txt");
   EXPECT_EQ(StatusText(),
             "Trovata una sola pratica sulla base del N. Registro Generale : 4417/2025");
@@ -177,7 +176,7 @@ TEST_F(OpeningTest, a_justice_of_the_peace_page_finds_its_case) {
 
 // The columns are told in twips: 1500, 5000, 11760 - 1500 - 5000 - 350 and 0 on a profile. The list
 // is wider than the 11760 it was designed for by what the frame leaves; the value takes that.
-TEST_F(OpeningTest, the_columns_of_a_profile_have_their_widths) {
+TEST_F(OpeningTest, TheColumnsOfAProfileHaveTheirWidths) {
   Open("profilo-contratto.txt");
   const std::vector<int> widths = Widths("lstImport");
   ASSERT_EQ(widths.size(), 4U);
@@ -188,7 +187,7 @@ TEST_F(OpeningTest, the_columns_of_a_profile_have_their_widths) {
   EXPECT_EQ(widths[3], 0);
 }
 
-TEST_F(OpeningTest, the_columns_of_a_history_have_their_widths) {
+TEST_F(OpeningTest, TheColumnsOfAHistoryHaveTheirWidths) {
   Open("storico-pagina-1.txt");
   const std::vector<int> widths = Widths("lstImport");
   ASSERT_EQ(widths.size(), 4U);
@@ -198,7 +197,7 @@ TEST_F(OpeningTest, the_columns_of_a_history_have_their_widths) {
   EXPECT_EQ(widths[3], 73);  // 1100
 }
 
-TEST_F(OpeningTest, a_text_that_is_no_page_is_refused_and_the_clipboard_emptied) {
+TEST_F(OpeningTest, ATextThatIsNoPageIsRefusedAndTheClipboardEmptied) {
   Open("not-a-page/messaggio-di-posta.txt");
   EXPECT_EQ(NextBox(), RefusedBox());
   Press(WXK_RETURN);
@@ -208,14 +207,14 @@ TEST_F(OpeningTest, a_text_that_is_no_page_is_refused_and_the_clipboard_emptied)
   EXPECT_EQ(office_.Setting("Shared", "Id_Utente"), "7");
 }
 
-TEST_F(OpeningTest, an_empty_clipboard_is_refused) {
+TEST_F(OpeningTest, AnEmptyClipboardIsRefused) {
   OpenText("");
   EXPECT_EQ(NextBox(), RefusedBox());
   Press(WXK_ESCAPE);
   EXPECT_TRUE(EndsAs(EndReason::kRefused));
 }
 
-TEST_F(OpeningTest, an_import_that_stops_is_told_and_the_window_opens_with_what_was_read) {
+TEST_F(OpeningTest, AnImportThatStopsIsToldAndTheWindowOpensWithWhatWasRead) {
   // A date that is none stops the import of an agenda at its line.
   OpenText(
       "Agenda dell'avvocato - Impegni del periodo\nTotale impegni: molti nel periodo scelto, in 8 "
@@ -230,7 +229,7 @@ TEST_F(OpeningTest, an_import_that_stops_is_told_and_the_window_opens_with_what_
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(OpeningTest, the_handle_of_the_window_is_kept_for_the_next_start) {
+TEST_F(OpeningTest, TheHandleOfTheWindowIsKeptForTheNextStart) {
   Open("profilo-contratto.txt");
   EXPECT_EQ(office_.Setting("Shared", "OrdexHandle"),
             Frame([](const auto& frame) { return std::to_string(desktop::HandleOf(frame)); }));

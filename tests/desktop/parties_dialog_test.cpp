@@ -52,7 +52,7 @@ class PartiesDialogTest : public DeskTest {
   wxDialog* dialog_ = nullptr;
 };
 
-TEST_F(PartiesDialogTest, shows_the_names_of_the_page_with_the_keys_in_the_first) {
+TEST_F(PartiesDialogTest, ShowsTheNamesOfThePageWithTheKeysInTheFirst) {
   OpenDialog();
   EXPECT_EQ(OnMain([this] { return dialog_->GetTitle().utf8_string(); }), "Parti");
   EXPECT_TRUE(HasFocus(Field("txtAttore")));
@@ -68,7 +68,7 @@ TEST_F(PartiesDialogTest, shows_the_names_of_the_page_with_the_keys_in_the_first
   EXPECT_THAT(OnMain([this] { return ButtonsOf(*dialog_); }), ElementsAre("OK"));
 }
 
-TEST_F(PartiesDialogTest, typed_names_are_offered_and_the_case_is_created_with_them) {
+TEST_F(PartiesDialogTest, TypedNamesAreOfferedAndTheCaseIsCreatedWithThem) {
   OpenDialog();
   Overwrite("Pellegrassi Silvio");
   Press(WXK_TAB);
@@ -94,7 +94,7 @@ TEST_F(PartiesDialogTest, typed_names_are_offered_and_the_case_is_created_with_t
               ElementsAre("5230/2025|Tornabianca Amelia"));
 }
 
-TEST_F(PartiesDialogTest, a_name_that_the_page_shows_must_be_given) {
+TEST_F(PartiesDialogTest, ANameThatThePageShowsMustBeGiven) {
   OpenDialog();
   Overwrite("");
   Press(WXK_RETURN);
@@ -114,7 +114,7 @@ TEST_F(PartiesDialogTest, a_name_that_the_page_shows_must_be_given) {
   EXPECT_EQ(TextOf("txtAttore"), "Pellegrassi Silvio");
 }
 
-TEST_F(PartiesDialogTest, escape_closes_it_and_takes_nothing_over) {
+TEST_F(PartiesDialogTest, EscapeClosesItAndTakesNothingOver) {
   OpenDialog();
   Overwrite("Pellegrassi Silvio");
   Press(WXK_ESCAPE);
@@ -126,7 +126,7 @@ TEST_F(PartiesDialogTest, escape_closes_it_and_takes_nothing_over) {
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(PartiesDialogTest, a_page_that_is_handed_over_meanwhile_waits_and_is_refused) {
+TEST_F(PartiesDialogTest, APageThatIsHandedOverMeanwhileWaitsAndIsRefused) {
   OpenDialog();
   HandOver("profilo-contratto.txt");
   EXPECT_EQ(NextDialog("dlgParti"), dialog_);

@@ -32,7 +32,7 @@ class PersonCardTest : public DeskTest {
   wxDialog* card_ = nullptr;
 };
 
-TEST_F(PersonCardTest, a_click_on_the_client_shows_the_card_of_a_company) {
+TEST_F(PersonCardTest, AClickOnTheClientShowsTheCardOfACompany) {
   OpenCardOf("EDILIZIA VALLEBRUNA S.R.L.");
   EXPECT_EQ(OnMain([this] { return card_->GetTitle().utf8_string(); }), "  Info Anagrafica");
   EXPECT_EQ(CardText(),
@@ -48,7 +48,7 @@ TEST_F(PersonCardTest, a_click_on_the_client_shows_the_card_of_a_company) {
   EXPECT_THAT(OnMain([this] { return ButtonsOf(*card_); }), ElementsAre("Sì", "No"));
 }
 
-TEST_F(PersonCardTest, every_text_fits_into_the_card) {
+TEST_F(PersonCardTest, EveryTextFitsIntoTheCard) {
   OpenCardOf("IMMOBILIARE PONTEMIRTO S.P.A.");
   EXPECT_TRUE(OnMain([this] {
     const wxRect card = card_->GetScreenRect();
@@ -59,7 +59,7 @@ TEST_F(PersonCardTest, every_text_fits_into_the_card) {
   }));
 }
 
-TEST_F(PersonCardTest, escape_closes_the_card_and_the_window_goes_on) {
+TEST_F(PersonCardTest, EscapeClosesTheCardAndTheWindowGoesOn) {
   OpenCardOf("IMMOBILIARE PONTEMIRTO S.P.A.");
   EXPECT_THAT(CardText(), ::testing::HasSubstr("VIALE CA' ROSSA n. 101"));
   Press(WXK_ESCAPE);
@@ -71,14 +71,14 @@ TEST_F(PersonCardTest, escape_closes_the_card_and_the_window_goes_on) {
   EXPECT_TRUE(WaitFor([] { return wxWindow::FindWindowByName("lstImport")->IsShownOnScreen(); }));
 }
 
-TEST_F(PersonCardTest, return_closes_the_card) {
+TEST_F(PersonCardTest, ReturnClosesTheCard) {
   OpenCardOf("EDILIZIA VALLEBRUNA S.R.L.");
   Press(WXK_RETURN);
   ASSERT_TRUE(NoBox());
   EXPECT_EQ(Ended(), std::nullopt);
 }
 
-TEST_F(PersonCardTest, the_keyboard_reaches_a_party) {
+TEST_F(PersonCardTest, TheKeyboardReachesAParty) {
   Open("profilo-contratto.txt");
   auto* link = Find<wxHyperlinkCtrl>("EDILIZIA VALLEBRUNA S.R.L.");
   OnMain([=] { link->SetFocus(); });
@@ -87,14 +87,14 @@ TEST_F(PersonCardTest, the_keyboard_reaches_a_party) {
   EXPECT_NE(NextDialog("frmInfoAnagrafica"), nullptr);
 }
 
-TEST_F(PersonCardTest, a_person_that_is_masked_as_null_is_told_to_be_missing) {
+TEST_F(PersonCardTest, APersonThatIsMaskedAsNullIsToldToBeMissing) {
   sessions::RunSql(office_.database(),
                    "UPDATE Anagrafica SET Cognome = 'CLIENTE NULLO' WHERE ID_Ana = 2");
   OpenCardOf("CLIENTE NULLO");
   EXPECT_EQ(CardText(), "ANAGRAFICA INESISTENTE");
 }
 
-TEST_F(PersonCardTest, a_card_that_is_closed_without_an_answer_links_nobody) {
+TEST_F(PersonCardTest, ACardThatIsClosedWithoutAnAnswerLinksNobody) {
   Open("profilo-lavoro.txt");
   Press(WXK_RETURN);
   EXPECT_EQ(NextBox(), NoCaseBox());

@@ -43,7 +43,7 @@ class SearchTest : public DeskTest {
   desktop::CaseSearchBox* search_ = nullptr;
 };
 
-TEST_F(SearchTest, drops_down_by_itself_and_an_arrow_and_return_choose) {
+TEST_F(SearchTest, DropsDownByItselfAndAnArrowAndReturnChoose) {
   OpenSearch("storico-pagina-1.txt");
   Type("starnotti");
   ASSERT_TRUE(Drops(true));
@@ -59,7 +59,7 @@ TEST_F(SearchTest, drops_down_by_itself_and_an_arrow_and_return_choose) {
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(SearchTest, the_arrow_up_goes_back) {
+TEST_F(SearchTest, TheArrowUpGoesBack) {
   OpenSearch("storico-pagina-1.txt");
   Type("starnotti");
   ASSERT_TRUE(Drops(true));
@@ -70,7 +70,7 @@ TEST_F(SearchTest, the_arrow_up_goes_back) {
   EXPECT_EQ(Case(), 6);
 }
 
-TEST_F(SearchTest, a_click_chooses) {
+TEST_F(SearchTest, AClickChooses) {
   OpenSearch("profilo-contratto.txt");
   Type("907");
   ASSERT_TRUE(Drops(true));
@@ -86,7 +86,7 @@ TEST_F(SearchTest, a_click_chooses) {
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
 
-TEST_F(SearchTest, escape_takes_the_hits_away_and_then_closes_the_window) {
+TEST_F(SearchTest, EscapeTakesTheHitsAwayAndThenClosesTheWindow) {
   OpenSearch("profilo-contratto.txt");
   Type("starnotti");
   ASSERT_TRUE(Drops(true));
@@ -99,7 +99,7 @@ TEST_F(SearchTest, escape_takes_the_hits_away_and_then_closes_the_window) {
   EXPECT_TRUE(EndsAs(EndReason::kClosed));
 }
 
-TEST_F(SearchTest, nothing_found_is_said_and_chooses_nothing) {
+TEST_F(SearchTest, NothingFoundIsSaidAndChoosesNothing) {
   OpenSearch("profilo-contratto.txt");
   Type("nessuno di questi");
   ASSERT_TRUE(Drops(true));
@@ -110,7 +110,7 @@ TEST_F(SearchTest, nothing_found_is_said_and_chooses_nothing) {
   EXPECT_EQ(Ended(), std::nullopt);
 }
 
-TEST_F(SearchTest, goes_away_with_the_focus) {
+TEST_F(SearchTest, GoesAwayWithTheFocus) {
   OpenSearch("profilo-contratto.txt");
   Type("starnotti");
   ASSERT_TRUE(Drops(true));
@@ -120,7 +120,30 @@ TEST_F(SearchTest, goes_away_with_the_focus) {
   EXPECT_EQ(Case(), 2);
 }
 
-TEST_F(SearchTest, the_number_of_a_justice_page_is_looked_for_with_return_alone) {
+TEST_F(SearchTest, TypingGoesOnBehindABlankAfterAPause) {
+  OpenSearch("profilo-contratto.txt");
+  Type("immobiliare ");
+  ASSERT_TRUE(Drops(true));
+  Type("pont");
+  EXPECT_TRUE(WaitFor([this] {
+    return State([](const Window& state) { return state.choice.ctlTestata1.searchText; }) ==
+           "immobiliare pont";
+  }));
+  EXPECT_EQ(Typed(), "immobiliare pont");
+}
+
+TEST_F(SearchTest, ClearingTakesOutWhatWasTypedAndNotSearchedFor) {
+  OpenSearch("profilo-contratto.txt");
+  OnMain([this] {
+    search_->ChangeValue("nebbia");
+    return true;
+  });
+  Click(Find<wxButton>("Pulisci campi"));
+  EXPECT_TRUE(WaitFor([this] { return Case() == 0; }));
+  EXPECT_EQ(Typed(), "");
+}
+
+TEST_F(SearchTest, TheNumberOfAJusticePageIsLookedForWithReturnAlone) {
   OpenSearch("giudice-di-pace-opposizione.txt");
   EXPECT_EQ(Typed(), "4417/2025");
   Click(Find<wxButton>("Pulisci campi"));

@@ -14,7 +14,7 @@ using ::testing::IsEmpty;
 
 using UpdateTest = DeskTest;
 
-TEST_F(UpdateTest, return_updates_the_case_and_return_in_the_box_ends_the_program) {
+TEST_F(UpdateTest, ReturnUpdatesTheCaseAndReturnInTheBoxEndsTheProgram) {
   Open("profilo-contratto.txt");
   Press(WXK_RETURN);
   EXPECT_EQ(NextBox(), UpdatedBox());
@@ -28,14 +28,14 @@ TEST_F(UpdateTest, return_updates_the_case_and_return_in_the_box_ends_the_progra
   EXPECT_THAT(office_.Leftovers(), IsEmpty());
 }
 
-TEST_F(UpdateTest, a_click_on_the_button_updates_as_well) {
+TEST_F(UpdateTest, AClickOnTheButtonUpdatesAsWell) {
   Open("profilo-contratto.txt");
   Click(Find<wxButton>("Aggiorna"));
   EXPECT_EQ(NextBox(), UpdatedBox());
   EXPECT_THAT(Rows("SELECT count(*) FROM PraOrdex"), ElementsAre("1"));
 }
 
-TEST_F(UpdateTest, while_the_box_is_up_the_window_takes_no_act) {
+TEST_F(UpdateTest, WhileTheBoxIsUpTheWindowTakesNoAct) {
   Open("profilo-contratto.txt");
   auto* button = Find<wxButton>("Aggiorna");
   Press(WXK_RETURN);
@@ -48,7 +48,7 @@ TEST_F(UpdateTest, while_the_box_is_up_the_window_takes_no_act) {
   EXPECT_THAT(Rows("SELECT count(*) FROM PraOrdex"), ElementsAre("1"));
 }
 
-TEST_F(UpdateTest, a_case_of_another_number_is_asked_for_and_no_leaves_it_alone) {
+TEST_F(UpdateTest, ACaseOfAnotherNumberIsAskedForAndNoLeavesItAlone) {
   Open("profilo-contratto.txt");
   auto* search = Find<wxTextCtrl>("ctlTestata1");
   Click(search);
@@ -71,7 +71,7 @@ TEST_F(UpdateTest, a_case_of_another_number_is_asked_for_and_no_leaves_it_alone)
   EXPECT_EQ(Ended(), std::nullopt);
 }
 
-TEST_F(UpdateTest, a_penal_case_is_marked_and_refused) {
+TEST_F(UpdateTest, APenalCaseIsMarkedAndRefused) {
   Open("profilo-contratto.txt");
   EXPECT_EQ(Find<wxWindow>(" PENALE "), nullptr);
   Click(Find<wxTextCtrl>("ctlTestata1"));
@@ -88,7 +88,7 @@ TEST_F(UpdateTest, a_penal_case_is_marked_and_refused) {
   EXPECT_THAT(Rows("SELECT count(*) FROM PraOrdex"), ElementsAre("0"));
 }
 
-TEST_F(UpdateTest, an_update_that_fails_ends_without_a_word) {
+TEST_F(UpdateTest, AnUpdateThatFailsEndsWithoutAWord) {
   Open("profilo-contratto.txt");
   sessions::RunSql(office_.database(),
                    "CREATE TRIGGER Blocco BEFORE UPDATE ON Pratica "
@@ -98,7 +98,7 @@ TEST_F(UpdateTest, an_update_that_fails_ends_without_a_word) {
   EXPECT_EQ(office_.Setting("Shared", "Id_Utente"), "-1");
 }
 
-TEST_F(UpdateTest, an_error_that_nothing_traps_is_reported_and_ends_the_program) {
+TEST_F(UpdateTest, AnErrorThatNothingTrapsIsReportedAndEndsTheProgram) {
   Open("profilo-contratto.txt");
   sessions::RunSql(office_.database(), "ALTER TABLE Anagrafica RENAME TO Altrove");
   Click(Find<wxTextCtrl>("ctlTestata1"));
@@ -113,7 +113,7 @@ TEST_F(UpdateTest, an_error_that_nothing_traps_is_reported_and_ends_the_program)
   EXPECT_EQ(office_.Setting("Shared", "Id_Utente"), "7");
 }
 
-TEST_F(UpdateTest, a_history_is_written_once_a_case_is_chosen_and_return_pressed) {
+TEST_F(UpdateTest, AHistoryIsWrittenOnceACaseIsChosenAndReturnPressed) {
   Open("storico-pagina-1.txt");
   Type("1842");
   Press(WXK_RETURN);
@@ -131,7 +131,7 @@ TEST_F(UpdateTest, a_history_is_written_once_a_case_is_chosen_and_return_pressed
               ElementsAre("15|1|15"));
 }
 
-TEST_F(UpdateTest, a_history_of_a_penal_case_is_refused) {
+TEST_F(UpdateTest, AHistoryOfAPenalCaseIsRefused) {
   Open("storico-pagina-1.txt");
   Type("2210/2025");
   Press(WXK_RETURN);

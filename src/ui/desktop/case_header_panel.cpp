@@ -97,10 +97,13 @@ void CaseHeaderPanel::DrawParty(const Party& party, const PersonLink& person) {
   party.name->Show(!registered);
   if (!registered) {
     SetText(*party.name, person.name);
-  } else if (party.link->GetLabel() != Wx(person.name)) {
-    party.link->SetLabel(Wx(person.name));
-    party.link->SetToolTip(Wx(person.name));
+    return;
   }
+  // "ROSSI & C." has no mnemonic.
+  const wxString label = wxControl::EscapeMnemonics(Wx(person.name));
+  if (party.link->GetLabel() == label) return;
+  party.link->SetLabel(label);
+  party.link->SetToolTip(Wx(person.name));
 }
 
 void CaseHeaderPanel::Draw() {

@@ -47,6 +47,11 @@ void CaseSearchBox::Draw() {
   if (Utf8(GetValue()) != drawn_) ChangeValue(Wx(drawn_));
 }
 
+void CaseSearchBox::Empty() {
+  HideDropDown();
+  ChangeValue(wxString());
+}
+
 void CaseSearchBox::HideDropDown() {
   pause_.Stop();
   popup_->Hide();
@@ -58,6 +63,9 @@ void CaseSearchBox::Search() {
     HideDropDown();
     return;
   }
+  // What is searched for stands in the box already, perhaps with a blank behind it that the user is
+  // about to go on from.
+  drawn_ = asked_;
   const wxBusyCursor busy;
   run_([this](MainWindow& window) { window.FindCases(asked_); });
   ShowHits();
@@ -85,7 +93,7 @@ void CaseSearchBox::ChooseHit(int place) {
   const std::int32_t idPra = header_.found[static_cast<std::size_t>(place)].idPra;
   // The program's own text box is emptied with the header; so is this one.
   drawn_.clear();
-  ChangeValue(wxString());
+  Empty();
   run_([idPra](MainWindow& window) { window.ChooseCase(idPra); });
   FocusOnDefaultButton();
 }

@@ -22,6 +22,8 @@ class CaseSearchBox : public wxTextCtrl {
   void Draw();
   bool DropDownShown() const { return popup_->IsShown(); }
   void HideDropDown();
+  // Takes out what was typed, searched for or not.
+  void Empty();
 
  private:
   void Search();

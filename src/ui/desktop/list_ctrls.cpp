@@ -53,8 +53,18 @@ VirtualList::VirtualList(wxWindow* parent, const wxString& name, const ActRunner
   });
 }
 
+void VirtualList::Deselect() {
+  for (long row = GetNextItem(-1, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED); row >= 0;
+       row = GetNextItem(row, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED)) {
+    SetItemState(row, 0, wxLIST_STATE_SELECTED);
+  }
+}
+
 void VirtualList::ShowRows(std::size_t count) {
-  if (static_cast<std::size_t>(GetItemCount()) != count) SetItemCount(static_cast<long>(count));
+  if (static_cast<std::size_t>(GetItemCount()) != count) {
+    Deselect();
+    SetItemCount(static_cast<long>(count));
+  }
   Refresh();
 }
 
@@ -69,7 +79,10 @@ void VirtualList::ShowColumn(int place, const Column& column, bool grows) {
   }
   int width = Pixels(*this, column.width);
   if (grows) width += std::max(0, GetSize().GetWidth() - Pixels(*this, kListWidth));
-  if (GetColumnWidth(place) != width) SetColumnWidth(place, width);
+  int& drawn = drawnWidths_.try_emplace(place, -1).first->second;
+  if (drawn == width) return;
+  drawn = width;
+  SetColumnWidth(place, width);
 }
 
 wxString VirtualList::SelectedText() const {
@@ -114,8 +127,7 @@ void ReviewListCtrl::Draw() {
   const std::pair sorted(list_.sortKey, list_.sortOrder);
   if (sorted_ != sorted) {
     sorted_ = sorted;
-    // The toolkit remembers places, and other rows have come to stand there.
-    SetItemState(-1, 0, wxLIST_STATE_SELECTED);
+    Deselect();
   }
   ShowRows(list_.rows.size());
   if (GetToolTipText() != Wx(list_.toolTip)) SetToolTip(Wx(list_.toolTip));

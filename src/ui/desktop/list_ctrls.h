@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstddef>
+#include <map>
 #include <utility>
 
 #include "state/review_list.h"
@@ -24,12 +25,17 @@ class VirtualList : public wxListCtrl {
   // Takes the number of rows over and paints those in view again.
   void ShowRows(std::size_t count);
   // Sets a column's header and width, in twips at the design width; where the list is wider than
-  // designed, `grows` takes the rest.
+  // designed, `grows` takes the rest. A width that the user has changed stays until the program's
+  // own changes.
   void ShowColumn(int place, const Column& column, bool grows);
+  // The toolkit remembers places: once other rows stand there, a click on one must count as new.
+  void Deselect();
 
  private:
   int OnGetItemImage(long) const override { return -1; }
   void CopySelection();
+
+  std::map<int, int> drawnWidths_;  // by column, in pixels
 };
 
 // lstImport.

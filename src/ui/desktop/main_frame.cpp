@@ -29,8 +29,12 @@ MainFrame::MainFrame(MainWindow& window, std::function<void()> onEnd)
   const ActRunner run = [this](const Act& act) { Run(act); };
   auto* body = new wxPanel(this);
   header_ = new CaseHeaderPanel(body, state.choice.ctlTestata1, run);
-  cmdPulisci_ = MakeFlatButton(header_, state.commands.cmdPulisci, "clear", run,
-                               [](MainWindow& main) { main.PressPulisci(); });
+  cmdPulisci_ =
+      MakeFlatButton(header_, state.commands.cmdPulisci, "clear", run, [this](MainWindow& main) {
+        // What was typed and not searched for yet goes too.
+        header_->SearchBox().Empty();
+        main.PressPulisci();
+      });
   cmdPulisci_->SetName("Pulisci campi");
   cmdPulisci_->MoveAfterInTabOrder(&header_->SearchBox());
   header_->SearchRow().Add(cmdPulisci_, 0, wxALIGN_CENTRE_VERTICAL | wxLEFT, FromDIP(kGap));
@@ -123,7 +127,9 @@ void MainFrame::DrawSize() {
     SetSize(width, Pixels(*this, form.height));
   }
   if (drawn_.top != form.top || drawn_.left != form.left) {
-    Move(Pixels(*this, form.left), Pixels(*this, form.top));
+    // The program places it within the work area, which need not begin where the screen does.
+    const wxPoint corner = wxDisplay(static_cast<unsigned>(0)).GetClientArea().GetTopLeft();
+    Move(corner + wxPoint(Pixels(*this, form.left), Pixels(*this, form.top)));
   }
   drawn_ = form;
 }
