@@ -225,6 +225,20 @@ TEST(RewriteForSqlite, ADoubleQuotedTextBecomesALiteralBetweenApostrophes) {
   EXPECT_EQ(Rewritten("a = \"\"\"\""), "a = '\"'");
 }
 
+TEST(RewriteForSqlite, LiteralsOfDifferentKindsThatTouchStayTwo) {
+  EXPECT_EQ(Rewritten("select \"a\"'b'"), "select 'a' 'b'");
+  EXPECT_EQ(Rewritten("select 'a'\"b\"'c'"), "select 'a' 'b' 'c'");
+  EXPECT_EQ(Rewritten("select #05/13/2024#'b'"), "select '2024-05-13 00:00:00' 'b'");
+  EXPECT_EQ(Rewritten("select 'b'#05/13/2024#"), "select 'b' '2024-05-13 00:00:00'");
+}
+
+TEST(RewriteForSqlite, ABitThatTouchesANumberOrAWordDoesNotJoinIt) {
+  EXPECT_EQ(Rewritten("select * from Utenti where TitContabilita = 'TRUE'5"),
+            "select * from Utenti where TitContabilita = 1 5");
+  EXPECT_EQ(Rewritten("select * from Utenti where TitContabilita = 'FALSE'or 1"),
+            "select * from Utenti where TitContabilita = 0 or 1");
+}
+
 TEST(RewriteForSqlite, UcaseBecomesUpperBeforeAParenthesisOnly) {
   EXPECT_EQ(Rewritten("ucase(Scadenza) = UCASE (\"X\")"), "UPPER(Scadenza) = UPPER ('X')");
   ExpectUnchanged("select ucase from T");

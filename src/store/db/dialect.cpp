@@ -240,6 +240,7 @@ class SqliteRewriter {
         TakeText(i);
         return i;
       case TokenKind::kQuoted:
+        KeepApart();
         AppendLiteral(out_, ReplaceAll(Inside(token.text), "\"\"", "\""));
         return i;
       case TokenKind::kDate:
@@ -295,9 +296,20 @@ class SqliteRewriter {
     const bool is_true = EqualAscii(text, "'TRUE'");
     if ((is_true || EqualAscii(text, "'FALSE'")) && ComparesBitColumn(i)) {
       out_.push_back(is_true ? '1' : '0');
+      // A digit or a letter directly behind the literal would become a part of the number.
+      const bool joins = i + 1 < tokens_.size() && (tokens_[i + 1].kind == TokenKind::kNumber ||
+                                                    tokens_[i + 1].kind == TokenKind::kWord);
+      if (joins) out_.push_back(' ');
     } else {
+      KeepApart();
       out_.append(text);
     }
+  }
+
+  // Two literals of different kinds may touch. Once both stand between apostrophes they would be
+  // one, with an apostrophe inside.
+  void KeepApart() {
+    if (out_.ends_with('\'')) out_.push_back(' ');
   }
 
   // Whether a bit column and "=" stand before the literal at `i`.
@@ -334,6 +346,7 @@ class SqliteRewriter {
     if (!date) {
       throw Refused(std::string(written) + " non è una data (" + std::string(form) + ")");
     }
+    KeepApart();
     AppendLiteral(out_, FormatIso(*date));
   }
 
