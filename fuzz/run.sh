@@ -38,7 +38,7 @@ search() {
   local executed rate last
   executed=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
   rate=$(sed -n 's/^stat::average_exec_per_sec: *//p' "$log")
-  last=$(grep -E '^#[0-9]+\s+DONE' "$log" | sed -E 's/.*cov: ([0-9]+) ft: ([0-9]+) corp: ([0-9]+).*/\1 \2 \3/')
+  last=$(grep -aE "^#[0-9]+\s+DONE" "$log" | sed -E 's/.*cov: ([0-9]+) ft: ([0-9]+) corp: ([0-9]+).*/\1 \2 \3/')
   # shellcheck disable=SC2086
   printf '%-18s %10s %8s %6s %8s %6s\n' "$target" "$executed" "$rate" $last
 }
