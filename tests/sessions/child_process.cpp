@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <grp.h>
 #include <poll.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -61,6 +62,13 @@ bool BecomeNobody() {
   return setgroups(0, nullptr) == 0 && setgid(kNobody) == 0 && setuid(kNobody) == 0;
 }
 
+// With the signal passed over a write beyond the limit fails as on a full disk.
+bool LimitFiles(const std::optional<std::size_t>& largest) {
+  if (!largest) return true;
+  const rlimit limit{*largest, *largest};
+  return std::signal(SIGXFSZ, SIG_IGN) != SIG_ERR && setrlimit(RLIMIT_FSIZE, &limit) == 0;
+}
+
 }  // namespace
 
 ChildProcess::ChildProcess(const ProcessTask& task, Clock::time_point deadline)
@@ -77,7 +85,8 @@ ChildProcess::ChildProcess(const ProcessTask& task, Clock::time_point deadline)
     // Between fork and exec only what is safe beside other threads.
     const bool ready = chdir(task.folder.c_str()) == 0 && dup2(in.reading, STDIN_FILENO) >= 0 &&
                        dup2(out.writing, STDOUT_FILENO) >= 0 &&
-                       dup2(err.writing, STDERR_FILENO) >= 0 && (!task.asNobody || BecomeNobody());
+                       dup2(err.writing, STDERR_FILENO) >= 0 && LimitFiles(task.largestFile) &&
+                       (!task.asNobody || BecomeNobody());
     if (ready) execvpe(arguments[0], arguments.data(), variables.data());
     _exit(kCannotRun);
   }
@@ -159,9 +168,12 @@ void ChildProcess::Finish() {
 }
 
 void ChildProcess::Reap() {
+  constexpr std::size_t kKilobyte = 1024;
   int status = 0;
-  waitpid(id_, &status, 0);
+  rusage used{};
+  wait4(id_, &status, 0, &used);
   id_ = -1;
+  peakMemory_ = static_cast<std::size_t>(used.ru_maxrss) * kKilobyte;
   exitCode_ = WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
 }
 

@@ -4,8 +4,10 @@
 #include <sys/types.h>
 
 #include <chrono>
+#include <cstddef>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -18,6 +20,8 @@ struct ProcessTask {
   std::filesystem::path folder;                                  // where it runs
   std::vector<std::pair<std::string, std::string>> environment;  // besides our own
   bool asNobody = false;  // as an unprivileged user, where we are root
+  std::optional<std::size_t> largestFile =
+      {};  // bytes; no file of its grows beyond, as on a full disk
 };
 
 class ChildProcess {
@@ -47,6 +51,9 @@ class ChildProcess {
   bool timedOut() const { return timedOut_; }
   // Once finished: the exit code, or minus the number of the signal that ended it.
   int exitCode() const { return exitCode_; }
+  // Once finished: the most memory that it has held at a time, in bytes. What we hold ourselves
+  // when it is started counts too.
+  std::size_t peakMemory() const { return peakMemory_; }
 
  private:
   bool ReadSome();
@@ -62,6 +69,7 @@ class ChildProcess {
   std::string errors_;
   bool timedOut_ = false;
   int exitCode_ = -1;
+  std::size_t peakMemory_ = 0;
 };
 
 }  // namespace ordex::sessions

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,7 +25,8 @@ struct RunTask {
   // TEXT, the lock goes.
   std::vector<std::string> commands;
   bool asNobody = false;
-  bool locked = false;  // another program holds the database
+  bool locked = false;                          // another program holds the database
+  std::optional<std::size_t> largestFile = {};  // bytes, as on a full disk
   std::chrono::seconds timeLimit = kTimeLimit;
 };
 
@@ -33,8 +36,9 @@ struct RunOutcome {
   std::vector<Json> events;
   std::string output;
   std::string errors;
-  std::string fault;       // what is wrong with the output itself; empty where nothing is
-  std::string transcript;  // everything, for whoever reads of a failure
+  std::string fault;           // what is wrong with the output itself; empty where nothing is
+  std::string transcript;      // everything, for whoever reads of a failure
+  std::size_t peakMemory = 0;  // bytes
 };
 
 RunOutcome RunConsole(const RunTask& task, const Workplace& workplace);

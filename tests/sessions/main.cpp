@@ -16,6 +16,7 @@
 #include <utility>
 #include <vector>
 
+#include "console_program.h"
 #include "expectations.h"
 #include "session_file.h"
 #include "session_runner.h"
@@ -26,19 +27,6 @@ namespace fs = std::filesystem;
 namespace {
 
 const fs::path kSource = ORDEX_SOURCE_DIR;
-
-// The console, cut at its blanks: something that runs it may stand in front.
-std::vector<std::string> Console() {
-  const char* named = std::getenv("ORDEX_CONSOLE");
-  std::string text = named != nullptr && *named != '\0' ? named : ORDEX_CONSOLE_FILE;
-  std::vector<std::string> words;
-  while (!text.empty()) {
-    const std::size_t blank = text.find(' ');
-    if (blank != 0) words.push_back(text.substr(0, blank));
-    text.erase(0, blank == std::string::npos ? text.size() : blank + 1);
-  }
-  return words;
-}
 
 // The ODBC driver to reach the databases through; empty: none.
 std::string Driver() {
@@ -101,7 +89,7 @@ class SessionTest : public ::testing::Test {
 
  private:
   Content Run(const std::vector<Step>& steps, const std::string& driver) const {
-    const SessionSetup setup{kSource, Console(), kTimeLimit, driver};
+    const SessionSetup setup{kSource, ConsoleProgram(), kTimeLimit, driver};
     return RunSession(steps, setup, [&](std::size_t line, const std::string& text) {
       Fail(line, driver.empty() ? text : "through ODBC: " + text);
     });
