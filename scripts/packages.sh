@@ -15,6 +15,7 @@ WINDOWS_PACKAGES="g++-mingw-w64-x86-64-posix gcc g++ make cmake ninja-build pkg-
 # To run them here.
 WINDOWS_TEST_PACKAGES="wine64 xvfb xauth sqlite3"
 FUZZ_PACKAGES="clang libclang-rt-14-dev"
+COVERAGE_PACKAGES="gcovr"
 LINT_PACKAGES="clang-format clang-tidy"
 
 # Installs those of the named packages that are not there yet.

@@ -16,9 +16,15 @@ namespace {
 constexpr std::string_view kHistoryMark = "Storico del fascicolo";
 constexpr std::size_t kLongestLineShown = 300;  // characters
 
-std::string PageText(const Clipboard& clipboard) {
-  const std::string text = ClipboardText(clipboard);
-  return ReplaceAll(text, "\t", Contains(text, kHistoryMark) ? " " : "");
+// The text without its tabs, which on a history page are blanks, written as it is read: a large
+// page is not held once more.
+void WritePage(std::string_view text, std::ofstream& out) {
+  const std::string_view tab = Contains(text, kHistoryMark) ? " " : "";
+  while (const auto halves = SplitOnce(text, "\t")) {
+    out << halves->left << tab;
+    text = halves->right;
+  }
+  out << text;
 }
 
 RunTimeError WriteError(const fs::path& file) {
@@ -55,12 +61,14 @@ void PageFileOnDisk::Delete() {
 
 void TxtfromClipboard(const fs::path& programFolder, std::string_view szNameTxt,
                       const Clipboard& clipboard) {
-  const std::string text = PageText(clipboard);
+  const std::string text = ClipboardText(clipboard);
   const fs::path file = PageFile(programFolder, szNameTxt);
   std::ofstream out(file, std::ios::binary | std::ios::trunc);
   // The rights are narrowed while the file is still empty.
   AllowOwnerOnly(file);
-  out << '"' << text << "\"\r\n";
+  out << '"';
+  WritePage(text, out);
+  out << "\"\r\n";
   out.close();
   if (!out) throw WriteError(file);
 }

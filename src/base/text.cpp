@@ -2,6 +2,7 @@
 
 #include <utf8proc.h>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -106,6 +107,31 @@ constexpr std::array<utf8proc_int32_t, 32> kWindows1252 = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
+// In UTF-8 no sign of the old code page takes more than three bytes, and a letter of ASCII takes
+// one.
+std::size_t MostBytesAdded(std::string_view windows1252) {
+  std::size_t added = 0;
+  for (const char character : windows1252) {
+    const auto code = static_cast<unsigned char>(character);
+    if (code >= 0x80) added += code < 0xA0 ? 2 : 1;
+  }
+  return added;
+}
+
+// The line ends that are a single CR or LF.
+std::size_t CountBareLineEnds(std::string_view text) {
+  std::size_t bare = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\r'));
+  for (std::size_t at = text.find('\n'); at != std::string_view::npos;
+       at = text.find('\n', at + 1)) {
+    if (at > 0 && text[at - 1] == '\r') {
+      --bare;
+    } else {
+      ++bare;
+    }
+  }
+  return bare;
+}
+
 }  // namespace
 
 std::size_t CharCount(std::string_view text) {
@@ -190,7 +216,8 @@ std::string ReplaceAll(std::string_view text, std::string_view wanted, std::stri
     result.append(halves->left).append(by);
     text = halves->right;
   }
-  return result.append(text);
+  result.append(text);
+  return result;
 }
 
 void AppendLower(std::string_view text, std::string& out) {
@@ -199,12 +226,14 @@ void AppendLower(std::string_view text, std::string& out) {
 
 std::string Lower(std::string_view text) {
   std::string result;
+  result.reserve(text.size());
   AppendLower(text, result);
   return result;
 }
 
 std::string Upper(std::string_view text) {
   std::string result;
+  result.reserve(text.size());
   AppendMapped(text, result, 'a', UpperCode);
   return result;
 }
@@ -225,7 +254,7 @@ bool IsValidUtf8(std::string_view bytes) {
 
 std::string FromWindows1252(std::string_view bytes) {
   std::string text;
-  text.reserve(bytes.size() + bytes.size() / 8);
+  text.reserve(bytes.size() + MostBytesAdded(bytes));
   for (;;) {
     const std::size_t run = AsciiRun(bytes);
     text.append(bytes.substr(0, run));
@@ -246,7 +275,7 @@ std::string DecodeText(std::string bytes) {
 
 std::string ToCrLf(std::string_view text) {
   std::string result;
-  result.reserve(text.size() + text.size() / 32);
+  result.reserve(text.size() + CountBareLineEnds(text));
   for (;;) {
     const std::size_t end = text.find('\n');
     std::string_view line = text.substr(0, end);
@@ -260,6 +289,10 @@ std::string ToCrLf(std::string_view text) {
     result.append("\r\n");
     text.remove_prefix(end + 1);
   }
+}
+
+bool HasOnlyCrLf(std::string_view text) {
+  return CountBareLineEnds(text) == 0;
 }
 
 }  // namespace ordex

@@ -67,5 +67,7 @@ std::string FromWindows1252(std::string_view bytes);
 std::string DecodeText(std::string bytes);
 // Every line end (CR, LF or CRLF) brought to CRLF.
 std::string ToCrLf(std::string_view text);
+// Whether that would change nothing.
+bool HasOnlyCrLf(std::string_view text);
 
 }  // namespace ordex

@@ -12,6 +12,8 @@
 namespace ordex {
 namespace {
 
+constexpr std::size_t kLongestShown = 300;  // characters
+
 enum class Values { kAsWritten, kLowerCase };
 
 bool IsEntry(std::string_view line) {
@@ -21,7 +23,8 @@ bool IsEntry(std::string_view line) {
 FileLineError LineError(ErrorNumber number, const std::filesystem::path& file,
                         const MappingLine& line, std::string_view advice) {
   std::string where = "file \"" + TextOf(file.filename()) + "\", riga " +
-                      std::to_string(line.number) + ", \"" + line.text + "\". ";
+                      std::to_string(line.number) + ", \"" +
+                      std::string(Left(line.text, kLongestShown)) + "\". ";
   return {number, Describe(number, where.append(advice)), line.number};
 }
 
@@ -34,7 +37,7 @@ void AddEntry(KeyedTable& table, const std::filesystem::path& file, const Mappin
   }
   if (table.Exists(line.right)) {
     throw LineError(ErrorNumber::kDuplicateKey, file, line,
-                    "La chiave \"" + line.right +
+                    "La chiave \"" + std::string(Left(line.right, kLongestShown)) +
                         "\" sta già in una riga precedente: togliere una delle due righe.");
   }
   table.Add(values == Values::kLowerCase ? Lower(line.left) : line.left, line.right);

@@ -1,5 +1,6 @@
 #include "parse/recognition.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "base/error.h"
@@ -22,21 +23,49 @@ std::int16_t KindAt(std::size_t position) {
   return static_cast<std::int16_t>(position);
 }
 
-void FindKind(const KeyedTable& cRestr, std::string_view clipboardText, std::int16_t& iOrdexPage) {
-  const std::string lowered = Lower(clipboardText);
-  for (std::size_t i = 1; i <= cRestr.Count(); ++i) {
-    if (Contains(lowered, cRestr.At(i).value)) {
-      iOrdexPage = KindAt(i);
-      return;
-    }
-    iOrdexPage = kPageUnknown;
+std::size_t LongestText(const KeyedTable& cRestr) {
+  std::size_t longest = 0;
+  for (const KeyedTable::Entry& entry : cRestr.Entries()) {
+    longest = std::max(longest, entry.value.size());
   }
+  return longest;
+}
+
+// The place of the first of the texts in front of `before` that `lowered` holds; `before` where
+// there is none.
+std::size_t FirstHeld(const KeyedTable& cRestr, std::string_view lowered, std::size_t before) {
+  std::size_t i = 1;
+  while (i < before && !Contains(lowered, cRestr.At(i).value)) ++i;
+  return i;
+}
+
+// The page is brought to lower case piece by piece: a large one is not held once more. A piece
+// begins with the end of the one before, so that no text of the list is cut in two.
+void FindKind(const KeyedTable& cRestr, std::string_view clipboardText, std::int16_t& iOrdexPage) {
+  constexpr std::size_t kPiece = 250'000;  // characters
+  if (cRestr.Count() == 0) return;
+  const std::size_t none = cRestr.Count() + 1;
+  const std::size_t kept = LongestText(cRestr);
+  std::size_t kind = none;
+  std::string lowered;
+  std::string_view rest = clipboardText;
+  do {
+    const std::string_view piece = Left(rest, kPiece);
+    AppendLower(piece, lowered);
+    kind = FirstHeld(cRestr, lowered, kind);
+    if (lowered.size() > kept) lowered.erase(0, lowered.size() - kept);
+    rest.remove_prefix(piece.size());
+  } while (!rest.empty() && kind > 1);
+  iOrdexPage = kPageUnknown;
+  if (kind != none) iOrdexPage = KindAt(kind);
 }
 
 }  // namespace
 
 std::string ClipboardText(const Clipboard& clipboard) {
-  return ToCrLf(clipboard.GetText());
+  std::string text = clipboard.GetText();
+  if (HasOnlyCrLf(text)) return text;
+  return ToCrLf(text);
 }
 
 bool RiconosciPagina(Mappings& mappings, Page& page, HistoryPaging& paging, Clipboard& clipboard,

@@ -13,7 +13,6 @@
 #include <string>
 #include <string_view>
 #include <system_error>
-#include <thread>
 #include <vector>
 
 #include "abuse/big_pages.h"
@@ -153,11 +152,6 @@ class Kills : public ::testing::TestWithParam<Press> {
            TablesThatDiffer(before_, now) == "Anagrafica sqlite_sequence ";
   }
 
-  // Frames of a transaction that was never committed.
-  bool CutWithinTheTransaction(const Content& now) const {
-    return logged_ && now != after_ && (now == before_ || IsPersonAhead(now));
-  }
-
   void KillOnce(std::mt19937_64& random) {
     Restore();
     // The half of them strike while the button's work is done, the others from the start on.
@@ -170,7 +164,7 @@ class Kills : public ::testing::TestWithParam<Press> {
                  std::to_string(wait / std::chrono::microseconds(1)) + " us");
     ConsoleTry run(workplace_, GetParam().commands);
     if (behind_start) run.Prints(kReady);
-    std::this_thread::sleep_for(wait);
+    run.console().ReadFor(wait);
     run.console().Kill();
     run.console().Finish();
     std::error_code ignored;
@@ -190,11 +184,15 @@ class Kills : public ::testing::TestWithParam<Press> {
     if (run.Told(GetParam().told)) {
       EXPECT_TRUE(whole) << "told as done, but not there: " << TablesThatDiffer(now, after_);
     }
-    ++counts_[run.Told(GetParam().told)      ? "told and there"
-              : whole                        ? "there, not told"
-              : CutWithinTheTransaction(now) ? "within the transaction"
-              : now == before_               ? "nothing written"
-                                             : "only the person"];
+    ++counts_[Outcome(run, now)];
+  }
+
+  const char* Outcome(const ConsoleTry& run, const Content& now) const {
+    if (run.Told(GetParam().told)) return "told and there";
+    if (now == after_) return "there, not told";
+    if (IsPersonAhead(now)) return "only the person";
+    // Pages of a transaction that was never committed.
+    return logged_ ? "half in the log" : "nothing written";
   }
 
   // Whatever was lost is then there, and nothing stands there twice.

@@ -10,7 +10,10 @@
 #include <algorithm>
 #include <array>
 #include <csignal>
+#include <ctime>
+#include <fstream>
 #include <stdexcept>
+#include <thread>
 
 namespace ordex::sessions {
 namespace {
@@ -122,15 +125,13 @@ void ChildProcess::Write(std::string_view text) const {
 }
 
 // False where there is nothing more to read, or the time is over.
-bool ChildProcess::ReadSome() {
+bool ChildProcess::ReadSome(Clock::time_point until) {
   std::array<pollfd, 2> ends = {pollfd{outputPipe_, POLLIN, 0}, pollfd{errorPipe_, POLLIN, 0}};
   if (outputPipe_ < 0 && errorPipe_ < 0) return false;
-  const auto left =
-      std::chrono::duration_cast<std::chrono::milliseconds>(deadline_ - Clock::now()).count();
-  if (left <= 0 || poll(ends.data(), ends.size(), static_cast<int>(left)) <= 0) {
-    timedOut_ = true;
-    return false;
-  }
+  const auto left = std::chrono::ceil<std::chrono::nanoseconds>(until - Clock::now()).count();
+  constexpr auto kSecond = 1'000'000'000;
+  const timespec wait{left / kSecond, left % kSecond};
+  if (left <= 0 || ppoll(ends.data(), ends.size(), &wait, nullptr) <= 0) return false;
   const auto take = [](const pollfd& end, int& pipe, std::string& text) {
     if (pipe < 0 || end.revents == 0) return;
     std::array<char, 65536> buffer{};
@@ -149,9 +150,20 @@ bool ChildProcess::ReadSome() {
 
 bool ChildProcess::ReadUntil(const std::function<bool(const std::string& output)>& enough) {
   while (!enough(output_)) {
-    if (!ReadSome()) return !timedOut_;
+    if (!ReadSome(deadline_)) {
+      timedOut_ = timedOut_ || Clock::now() >= deadline_;
+      return !timedOut_;
+    }
   }
   return true;
+}
+
+void ChildProcess::ReadFor(Clock::duration duration) {
+  const Clock::time_point until = Clock::now() + duration;
+  while (ReadSome(until)) {
+  }
+  // It may have closed its output earlier.
+  std::this_thread::sleep_until(until);
 }
 
 void ChildProcess::Kill() const {
@@ -159,21 +171,30 @@ void ChildProcess::Kill() const {
   if (id_ > 0) kill(id_, SIGKILL);
 }
 
+// What the system accounts for an ended process counts what we held ourselves when it was started.
+std::size_t ChildProcess::PeakMemory() const {
+  constexpr std::size_t kKilobyte = 1024;
+  std::ifstream status("/proc/" + std::to_string(id_) + "/status");
+  std::size_t kilobytes = 0;
+  for (std::string line; std::getline(status, line);) {
+    if (line.starts_with("VmHWM:")) kilobytes = std::stoul(line.substr(line.find(':') + 1));
+  }
+  return kilobytes * kKilobyte;
+}
+
 void ChildProcess::Finish() {
   CloseInput();
-  while (ReadSome()) {
+  while (ReadSome(deadline_)) {
   }
+  timedOut_ = timedOut_ || Clock::now() >= deadline_;
   if (timedOut_) Kill();
   Reap();
 }
 
 void ChildProcess::Reap() {
-  constexpr std::size_t kKilobyte = 1024;
   int status = 0;
-  rusage used{};
-  wait4(id_, &status, 0, &used);
+  waitpid(id_, &status, 0);
   id_ = -1;
-  peakMemory_ = static_cast<std::size_t>(used.ru_maxrss) * kKilobyte;
   exitCode_ = WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
 }
 

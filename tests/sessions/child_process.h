@@ -41,6 +41,8 @@ class ChildProcess {
   // Reads its output until `enough` is content with it or the process has closed it. False at the
   // deadline.
   bool ReadUntil(const std::function<bool(const std::string& output)>& enough);
+  // Takes its output for so long, so that it never waits for us.
+  void ReadFor(Clock::duration duration);
   // Ends it by force, as a power cut would.
   void Kill() const;
   // Closes its standard input and waits for its end.
@@ -51,12 +53,11 @@ class ChildProcess {
   bool timedOut() const { return timedOut_; }
   // Once finished: the exit code, or minus the number of the signal that ended it.
   int exitCode() const { return exitCode_; }
-  // Once finished: the most memory that it has held at a time, in bytes. What we hold ourselves
-  // when it is started counts too.
-  std::size_t peakMemory() const { return peakMemory_; }
+  // The most memory that it has held at a time so far, in bytes. 0 once it has ended.
+  std::size_t PeakMemory() const;
 
  private:
-  bool ReadSome();
+  bool ReadSome(Clock::time_point until);
   void CloseInput();
   void Reap();
 
@@ -69,7 +70,6 @@ class ChildProcess {
   std::string errors_;
   bool timedOut_ = false;
   int exitCode_ = -1;
-  std::size_t peakMemory_ = 0;
 };
 
 }  // namespace ordex::sessions

@@ -186,7 +186,6 @@ RunOutcome RunConsole(const RunTask& task, const Workplace& workplace) {
   process.environment = {{"XDG_CONFIG_HOME", (workplace.folder() / "config").string()},
                          {"ORDEX_DIR", ""}};
   process.asNobody = task.asNobody;
-  process.largestFile = task.largestFile;
 
   std::optional<WriteLock> lock;
   if (task.locked) lock.emplace(workplace.database());
@@ -201,7 +200,6 @@ RunOutcome RunConsole(const RunTask& task, const Workplace& workplace) {
   outcome.timedOut = console.timedOut();
   outcome.output = console.output();
   outcome.errors = console.errors();
-  outcome.peakMemory = console.peakMemory();
   outcome.transcript = Joined(process.command, " ") + "\n--- commands\n" +
                        Shown(Joined(task.commands, "\n")) + "--- output\n" +
                        Shown(console.output()) + "--- error output\n" + Shown(console.errors()) +

@@ -2,8 +2,6 @@
 #pragma once
 
 #include <chrono>
-#include <cstddef>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,8 +23,7 @@ struct RunTask {
   // TEXT, the lock goes.
   std::vector<std::string> commands;
   bool asNobody = false;
-  bool locked = false;                          // another program holds the database
-  std::optional<std::size_t> largestFile = {};  // bytes, as on a full disk
+  bool locked = false;  // another program holds the database
   std::chrono::seconds timeLimit = kTimeLimit;
 };
 
@@ -36,9 +33,8 @@ struct RunOutcome {
   std::vector<Json> events;
   std::string output;
   std::string errors;
-  std::string fault;           // what is wrong with the output itself; empty where nothing is
-  std::string transcript;      // everything, for whoever reads of a failure
-  std::size_t peakMemory = 0;  // bytes
+  std::string fault;       // what is wrong with the output itself; empty where nothing is
+  std::string transcript;  // everything, for whoever reads of a failure
 };
 
 RunOutcome RunConsole(const RunTask& task, const Workplace& workplace);

@@ -54,6 +54,7 @@ struct ImportScript {
   std::deque<BoxAnswer> answers;  // then the default button
   std::function<void(MainWindow&)> onPersonCard = {};
   std::function<void(MainWindow&)> onParties = {};
+  std::function<void(Connection&)> onDatabase = {};  // once it is open
 };
 
 // Runs the import in the office; `number` is the statement that fails, 0 for none.
@@ -76,6 +77,7 @@ inline Course RunImport(Office& office, const ImportScript& script, std::size_t 
                      [&](std::string_view) {
                        auto opened = std::make_unique<FakeConnection>(OpenSqlite(office.file()));
                        connection = opened.get();
+                       if (script.onDatabase) script.onDatabase(*opened);
                        if (number != 0 && failing == Failing::kFromThereOn) {
                          opened->FailFrom(number);
                        } else if (number != 0) {

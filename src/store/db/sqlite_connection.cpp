@@ -105,6 +105,7 @@ class SqliteConnection final : public Connection {
   }
 
   void Execute(std::string_view sql) override {
+    RequireWritable();
     const std::vector<Token> tokens = Tokenize(sql);
     RequireOneStatement(tokens);
     SqliteStatement statement(database(), RewriteForSqlite(tokens, *catalog_));
@@ -118,6 +119,7 @@ class SqliteConnection final : public Connection {
   }
 
   std::int64_t Insert(const std::string& table, std::span<const NamedValue> values) override {
+    RequireWritable();
     if (!insert_.Fits(table, values, {})) {
       SqliteStatement statement(database(), InsertSql(table, values), SQLITE_PREPARE_PERSISTENT);
       insert_.Keep(std::move(statement), table, values, {});
@@ -132,6 +134,7 @@ class SqliteConnection final : public Connection {
   std::int64_t UpdateRow(const std::string& table, std::span<const NamedValue> values,
                          const std::string& key, const Value& keyValue) override {
     if (values.empty()) return 0;
+    RequireWritable();
     if (!update_.Fits(table, values, key)) {
       SqliteStatement statement(database(), UpdateSql(table, values, key),
                                 SQLITE_PREPARE_PERSISTENT);
@@ -142,8 +145,14 @@ class SqliteConnection final : public Connection {
   }
 
   // Immediate: a reader that turns writer would be refused at once, however long it may wait.
-  void Begin() override { RunSqlite(database(), "BEGIN IMMEDIATE"); }
-  void Commit() override { RunSqlite(database(), "COMMIT"); }
+  void Begin() override {
+    RequireFileInPlace(database());
+    RunSqlite(database(), "BEGIN IMMEDIATE");
+  }
+  void Commit() override {
+    RequireFileInPlace(database());
+    RunSqlite(database(), "COMMIT");
+  }
   void Rollback() override { RunSqlite(database(), "ROLLBACK"); }
   bool InTransaction() const override { return sqlite3_get_autocommit(database()) == 0; }
 
@@ -153,6 +162,11 @@ class SqliteConnection final : public Connection {
 
  private:
   sqlite3* database() const { return catalog_->database(); }
+
+  // Inside a transaction its end looks after the file, once for all statements.
+  void RequireWritable() const {
+    if (!InTransaction()) RequireFileInPlace(database());
+  }
 
   std::unique_ptr<Query> Prepared(std::string_view sql, std::vector<Value> parameters) {
     return std::make_unique<SqliteQuery>(catalog_, SqliteStatement(database(), sql),

@@ -117,4 +117,14 @@ SqliteHandle MakeSqliteFile(const fs::path& file) {
   return std::move(opened.database);
 }
 
+void RequireFileInPlace(sqlite3* database) {
+  int moved = 0;
+  const int code = sqlite3_file_control(database, "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+  if (code != SQLITE_OK || moved == 0) return;
+  throw MakeError(
+      ErrorNumber::kDatabase,
+      "il file del database è stato spostato, eliminato o sostituito mentre era aperto; "
+      "chiudere Ordex, rimettere il file al suo posto e copiare di nuovo la pagina");
+}
+
 }  // namespace ordex

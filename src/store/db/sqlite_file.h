@@ -20,4 +20,9 @@ SqliteHandle OpenSqliteFile(const std::filesystem::path& file, int busyMilliseco
 // Makes a new, empty database. Error (database), without the file's name.
 SqliteHandle MakeSqliteFile(const std::filesystem::path& file);
 
+// Error (database): the file is no longer the one that was opened. The engine would go on writing
+// into a file that nobody finds again, and say that all is well. Systems that let nobody remove an
+// open file have nothing to tell here.
+void RequireFileInPlace(sqlite3* database);
+
 }  // namespace ordex
