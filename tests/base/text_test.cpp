@@ -513,6 +513,17 @@ TEST(ToCrLf, EveryKindOfLineEndBecomesCrLf) {
   EXPECT_EQ(ToCrLf("a\r\nb"), "a\r\nb");
 }
 
+TEST(HasOnlyCrLf, IsTrueWhereNoLineEndIsASingleSign) {
+  EXPECT_TRUE(HasOnlyCrLf(""));
+  EXPECT_TRUE(HasOnlyCrLf("a"));
+  EXPECT_TRUE(HasOnlyCrLf("a\r\nb\r\n\r\n"));
+  EXPECT_FALSE(HasOnlyCrLf("\n"));
+  EXPECT_FALSE(HasOnlyCrLf("a\r"));
+  EXPECT_FALSE(HasOnlyCrLf("a\r\nb\n"));
+  EXPECT_FALSE(HasOnlyCrLf("a\n\rb"));
+  EXPECT_FALSE(HasOnlyCrLf("a\r\r\nb"));
+}
+
 TEST(ToCrLf, EmptyLinesStay) {
   EXPECT_EQ(ToCrLf("a\n\nb"), "a\r\n\r\nb");
   EXPECT_EQ(ToCrLf("a\r\rb"), "a\r\n\r\nb");

@@ -293,6 +293,30 @@ TEST_F(SqliteConnectionTest, ATransactionInsideATransactionIsAnError) {
   EXPECT_TRUE(connection().InTransaction());
 }
 
+// The engine would go on writing into the file that is gone.
+TEST(SqliteFileThatIsGone, TakesNoWrite) {
+  const DbTemporaryFolder folder;
+  const std::filesystem::path file = folder / "studio.db";
+  CreateSqliteDatabase(file, false);
+  const auto connection = OpenSqlite(file);
+  const std::vector<NamedValue> user = {{"NomeUtente", Text("A")}};
+  connection->Begin();
+  connection->Insert("Utenti", user);
+  std::filesystem::remove(file);
+  const DbRaised gone = DbError(
+      "il file del database è stato spostato, eliminato o sostituito mentre era aperto; "
+      "chiudere Ordex, rimettere il file al suo posto e copiare di nuovo la pagina");
+  EXPECT_EQ(DbRaisedBy([&] { connection->Commit(); }), gone);
+  connection->Rollback();
+  EXPECT_EQ(DbRaisedBy([&] { connection->Begin(); }), gone);
+  EXPECT_EQ(DbRaisedBy([&] { connection->Insert("Utenti", user); }), gone);
+  EXPECT_EQ(DbRaisedBy([&] { connection->Execute("DELETE FROM Utenti"); }), gone);
+  EXPECT_EQ(DbRaisedBy([&] {
+              connection->UpdateRow("Utenti", user, "ID_Utente", Value(std::int64_t{2}));
+            }),
+            gone);
+}
+
 TEST_F(SqliteConnectionTest, NothingKeepsTheLogFromBeingEmptied) {
   connection().Insert("Utenti", std::vector<NamedValue>{{"NomeUtente", Text("A")}});
   DbRecord record;

@@ -71,6 +71,18 @@ TEST_F(Recognition, LetterCaseOfAccentedLettersIsIgnoredToo) {
   EXPECT_EQ(page_.iOrdexPage, 1);
 }
 
+// A large page is brought to lower case piece by piece; a text may stand across two of them.
+TEST_F(Recognition, ATextIsFoundWhereverItStandsInALargePage) {
+  constexpr std::size_t kPiece = 250'000;
+  for (std::size_t before = kPiece - 25; before <= kPiece + 1; ++before) {
+    EXPECT_TRUE(Recognise(std::string(before, 'x') + "PROFILO del fascicolo"));
+    EXPECT_EQ(page_.iOrdexPage, 1) << before;
+  }
+  EXPECT_TRUE(Recognise("Agenda" + std::string(3 * kPiece, 'x') + "Profilo del fascicolo"));
+  EXPECT_EQ(page_.iOrdexPage, 1);
+  EXPECT_FALSE(Recognise(std::string(3 * kPiece, 'x')));
+}
+
 TEST_F(Recognition, OfTwoTextsThatThePageHoldsTheEarlierLineDecides) {
   EXPECT_TRUE(Recognise("Giudice di pace\r\nAgenda\r\nProfilo del fascicolo"));
   EXPECT_EQ(page_.iOrdexPage, 1);
