@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <filesystem>
+#include <iostream>
 #include <memory>
 #include <optional>
 #include <string>
@@ -216,6 +217,7 @@ TEST(TwentyConsoles, CreateTwentyCasesAtOnceInOneDatabase) {
                                 "'ZANONATI' GROUP BY Nome HAVING count(*) > 1)")[0],
             "0");
   EXPECT_GT(created, 0U);
+  std::cout << created << " of " << kDesks << " cases created\n";
 }
 
 }  // namespace
