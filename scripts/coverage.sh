@@ -21,7 +21,8 @@ ctest --test-dir build/coverage -E '^abuse:(Of/Kills|.*Big)' -j "$(nproc)" --tim
   }
 
 report=(gcovr --root . --object-directory build/coverage --filter 'src/' \
-  --exclude 'src/ui/desktop/' --exclude 'src/ui/windows/' --exclude-unreachable-branches -j "$(nproc)" build/coverage)
+  --exclude 'src/ui/desktop/' --exclude 'src/ui/windows/' --exclude-unreachable-branches -j "$(nproc)" \
+  build/coverage/src build/coverage/tests build/coverage/fuzz)
 "${report[@]}" --csv -o build/coverage/lines.csv
 [ "${1:-}" != --lines ] || "${report[@]}" --txt
 
