@@ -1,0 +1,23 @@
+// Waiting for what another program is about to do.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+
+namespace ordex::window_tests {
+
+// The machine may be busy; whoever comes to the end of this has failed.
+inline constexpr DWORD kLimit = 120'000;  // milliseconds
+inline constexpr DWORD kStep = 20;
+
+// True as soon as the condition holds, false where it never does.
+inline bool WaitFor(const std::function<bool()>& condition) {
+  for (DWORD waited = 0; waited < kLimit; waited += kStep) {
+    if (condition()) return true;
+    Sleep(kStep);
+  }
+  return condition();
+}
+
+}  // namespace ordex::window_tests
