@@ -27,10 +27,11 @@ same() {
   fail "$1"
 }
 
-# The settings in the user's registry, as lines like: Shared "Id_Utente"="7"
+# registry_values KEY: what stands in and below it, as lines like: Shared "Id_Utente"="7"
 registry_values() {
   rm -f "$WORK/export.reg"
-  wine regedit.exe /E "$(windows_path "$WORK/export.reg")" "$SETTINGS_KEY"
+  wine regedit.exe /E "$(windows_path "$WORK/export.reg")" "$1" >/dev/null
+  [ -f "$WORK/export.reg" ] || return 0
   iconv -f UTF-16 -t UTF-8 "$WORK/export.reg" | tr -d '\r' |
     awk '/^\[/ { section = $0; sub(/.*\\/, "", section); sub(/\]$/, "", section) } /^"/ { print section, $0 }' |
     sort

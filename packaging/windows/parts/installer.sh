@@ -9,15 +9,15 @@ names_in() {
   (cd "$1" && printf '%s\n' * | LC_ALL=C sort | paste -sd ' ')
 }
 
-# registry_value KEY NAME: empty where there is none.
+# registry_value KEY NAME: a text of the registry; empty where there is none.
 registry_value() {
-  wine reg query "$1" /v "$2" 2>/dev/null | tr -d '\r' | sed -nE "s/^ +$2 +REG_[A-Z]+ +//p"
+  registry_values "$1" | sed -nE "s/^[^\"]*\"$2\"=\"(.*)\"$/\\1/p" | sed -E 's/\\(.)/\1/g'
 }
 
 # wait_until COMMAND...: the uninstaller goes on in a process of its own.
 wait_until() {
-  local tries
-  for ((tries = 0; tries < 600; tries++)); do
+  local begin=$SECONDS
+  while [ $((SECONDS - begin)) -lt 60 ]; do
     "$@" && return 0
     sleep 0.2
   done
@@ -72,23 +72,20 @@ check_upgrade() {
 # A program that runs cannot be replaced: nothing is changed, and the exit code tells.
 check_running() {
   local program code=0
-  wine "$FOLDER/Ordex.exe" --help &
+  "$WINE" "$FOLDER/Ordex.exe" --help &
   program=$!
-  wait_until can_not_be_written "$FOLDER/Ordex.exe"
+  wait_until grep -q Ordex.exe "/proc/$program/maps"
   wine "$BUILD"/ordex-*-setup.exe /S || code=$?
   same "exit code while the program runs" 2 "$code"
   kill "$program"
   wait "$program" 2>/dev/null || true
-  wait_until can_be_written "$FOLDER/Ordex.exe"
+  wait_until can_be_written 'Ordex.exe'
   same "version after that" 9.9 "$(registry_value "$UNINSTALL_KEY" DisplayVersion)"
 }
 
+# can_be_written NAME: a file of the program's folder; without a blank, cmd takes it unquoted.
 can_be_written() {
-  wine cmd.exe /c "type nul >> \"$(windows_path "$1")\"" >/dev/null 2>&1
-}
-
-can_not_be_written() {
-  ! can_be_written "$1"
+  wine cmd.exe /c "type nul>>$WINDOWS_FOLDER\\$1 && echo written" 2>/dev/null | grep -q written
 }
 
 check_uninstall() {

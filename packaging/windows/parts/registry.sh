@@ -15,7 +15,7 @@ Shared "Id_Utente"="7"
 startup "Security"=";Integrated Security=SSPI;"
 startup "Server"="Data Source=file:office.db"
 END
-  )" "$(registry_values)"
+  )" "$(registry_values "$SETTINGS_KEY")"
   output=$(printf 'click cmdAzione\nok\n' | wine "$CONSOLE" --dir "$office" --json \
     --clipboard samples/profilo-contratto.txt)
   grep -qF '"idUtente":7' <<<"$output" || fail "the user of the registry is not the window's"
@@ -27,7 +27,7 @@ Shared "OrdexHandle"="0"
 startup "Security"=";Integrated Security=SSPI;"
 startup "Server"="Data Source=file:office.db"
 END
-  )" "$(registry_values)"
+  )" "$(registry_values "$SETTINGS_KEY")"
   same "case in the database" "1842/2025" \
     "$(sqlite3 "$office/office.db" "SELECT NumeroRegGenerale FROM PraOrdex")"
   # A value that is no text is told, not taken for an absent one.

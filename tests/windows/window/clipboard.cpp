@@ -7,14 +7,17 @@
 
 namespace ordex::window_tests {
 
-HeldClipboard::HeldClipboard() {
-  if (!WaitFor([] { return OpenClipboard(nullptr) != 0; })) {
+HeldClipboard::HeldClipboard()
+    : holder_(CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr,
+                              nullptr)) {
+  if (!WaitFor([this] { return OpenClipboard(holder_) != 0; })) {
     throw std::runtime_error("the clipboard cannot be opened");
   }
 }
 
 HeldClipboard::~HeldClipboard() {
   CloseClipboard();
+  DestroyWindow(holder_);
 }
 
 void Copy(const std::string& text) {

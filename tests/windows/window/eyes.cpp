@@ -132,7 +132,7 @@ bool ShowsStatus(HWND window, const std::string& text) {
 }
 
 bool IsInFront(HWND window) {
-  return WaitFor([&] { return GetForegroundWindow() == window; });
+  return window != nullptr && WaitFor([&] { return GetForegroundWindow() == window; });
 }
 
 std::ostream& operator<<(std::ostream& out, const Box& box) {

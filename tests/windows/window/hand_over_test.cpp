@@ -12,7 +12,6 @@ const std::string kOneCase =
     "Trovata una sola pratica sulla base del N. Registro Generale : 1842/2025";
 const std::string kTwoCases =
     "Sono state trovate 2 pratiche sulla base del N. Registro Generale : 907/2024";
-const std::string kUpdatedTitle = "Pratica Praxion aggiornata";
 
 class HandOverTest : public OrdexTest {
  protected:
@@ -83,7 +82,7 @@ TEST_F(HandOverTest, OtherNamesAreNotOurs) {
 TEST_F(HandOverTest, APokeWaitsUntilTheBoxInFrontIsAnswered) {
   HWND window = Open("profilo-lavoro.txt");
   ASSERT_TRUE(Press(window, VK_RETURN));
-  HWND question = Window("Ordex");
+  HWND question = Window(kQuestionTitle);
   ASSERT_TRUE(IsInFront(question));
   Copy(Sample("profilo-contratto.txt"));
   EXPECT_EQ(Poke({}, "10:31:07", CF_TEXT), Told::kTaken);

@@ -21,6 +21,10 @@ class HeldClipboard {
   ~HeldClipboard();
   HeldClipboard(const HeldClipboard&) = delete;
   HeldClipboard& operator=(const HeldClipboard&) = delete;
+
+ private:
+  // Whoever holds the clipboard without a window of its own keeps nobody out.
+  HWND holder_;
 };
 
 // --- keys and the mouse -----------------------------------------------------------------------

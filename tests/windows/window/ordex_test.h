@@ -60,5 +60,8 @@ class OrdexTest : public ::testing::Test {
 std::string Sample(const std::string& name);
 
 inline const std::string kProfileTitle = "Ordex - profilo del fascicolo - dati generali";
+// The boxes of an update and of a create.
+inline const std::string kUpdatedTitle = "Pratica Praxion aggiornata";
+inline const std::string kQuestionTitle = "Pratica Praxion non selezionata";
 
 }  // namespace ordex::window_tests

@@ -8,7 +8,7 @@
 namespace ordex::window_tests {
 
 // The machine may be busy; whoever comes to the end of this has failed.
-inline constexpr DWORD kLimit = 120'000;  // milliseconds
+inline constexpr DWORD kLimit = 60'000;  // milliseconds
 inline constexpr DWORD kStep = 20;
 
 // True as soon as the condition holds, false where it never does.

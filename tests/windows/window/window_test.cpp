@@ -9,9 +9,8 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-const Box kUpdated = {"Pratica Praxion aggiornata",
-                      "La pratica di Praxion è stata aggiornata con i dati di OrdexWeb.",
-                      {"OK"}};
+const Box kUpdated = {
+    kUpdatedTitle, "La pratica di Praxion è stata aggiornata con i dati di OrdexWeb.", {"OK"}};
 
 class WindowTest : public OrdexTest {};
 
@@ -50,10 +49,9 @@ TEST_F(WindowTest, AClickOnCloseWritesNothing) {
 TEST_F(WindowTest, AQuestionHasItalianButtonsAndNoLeavesEverythingAsItWas) {
   HWND window = Open("profilo-lavoro.txt");
   ASSERT_TRUE(Press(window, VK_RETURN));
-  const Box question = BoxOf("Ordex");
-  EXPECT_THAT(question.buttons, ElementsAre("Sì", "No"));
-  ASSERT_TRUE(IsInFront(Window("Ordex")));
-  ASSERT_TRUE(Click(Window("Ordex"), "No"));
+  EXPECT_THAT(BoxOf(kQuestionTitle).buttons, ElementsAre("Sì", "No"));
+  ASSERT_TRUE(IsInFront(Window(kQuestionTitle)));
+  ASSERT_TRUE(Click(Window(kQuestionTitle), "No"));
   ASSERT_EQ(Window(kProfileTitle), window);
   EXPECT_THAT(Rows("SELECT * FROM PraOrdex"), IsEmpty());
 }
