@@ -70,13 +70,17 @@ TEST_F(HandOverTest, AnotherProgramLinksALabelAndPokesIt) {
   EXPECT_TRUE(ShowsStatus(window, kOneCase));
 }
 
+// Were one of them taken for ours, the text would be refused with a box, and the program end.
 TEST_F(HandOverTest, OtherNamesAreNotOurs) {
   HWND window = Open("profilo-condominio.txt");
-  Copy(Sample("profilo-contratto.txt"));
+  Copy("nessuna pagina");
   EXPECT_EQ(Poke({"Ordex", "SYSINFO", "lblLinkDDE"}, "x", CF_TEXT), Told::kNoConversation);
   EXPECT_EQ(Poke({"Praxion", "MAIN", "lblLinkDDE"}, "x", CF_TEXT), Told::kNoConversation);
-  EXPECT_EQ(Poke({"Ordex", "MAIN", "lblAltro"}, "x", CF_TEXT), Told::kRefused);
+  Poke({"Ordex", "MAIN", "lblAltro"}, "x", CF_TEXT);
   EXPECT_EQ(StatusText(window), kTwoCases);
+  Copy(Sample("profilo-contratto.txt"));
+  EXPECT_EQ(Poke({}, "10:31:07", CF_TEXT), Told::kTaken);
+  ExpectUpdateOfOneCase(window);
 }
 
 TEST_F(HandOverTest, APokeWaitsUntilTheBoxInFrontIsAnswered) {

@@ -53,7 +53,7 @@ Program::~Program() {
 }
 
 std::optional<int> Program::ExitCode() const {
-  if (WaitForSingleObject(process_.hProcess, kLimit) != WAIT_OBJECT_0) return std::nullopt;
+  if (!WaitFor([this] { return !IsRunning(); })) return std::nullopt;
   DWORD code = 0;
   GetExitCodeProcess(process_.hProcess, &code);
   return static_cast<int>(code);
