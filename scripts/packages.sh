@@ -13,7 +13,7 @@ BENCH_PACKAGES="libbenchmark-dev"
 WINDOWS_PACKAGES="g++-mingw-w64-x86-64-posix gcc g++ make cmake ninja-build pkg-config ccache dpkg-dev tcl
   libcli11-dev nlohmann-json3-dev librsvg2-bin imagemagick nsis zip"
 # To run them here.
-WINDOWS_TEST_PACKAGES="wine64 xvfb xauth sqlite3"
+WINDOWS_TEST_PACKAGES="wine64 xvfb openbox sqlite3 nsis"
 FUZZ_PACKAGES="clang libclang-rt-14-dev"
 COVERAGE_PACKAGES="gcovr"
 LINT_PACKAGES="clang-format clang-tidy"

@@ -23,6 +23,19 @@ has_target() {
   ninja -C "$BUILD" -t query "$1" >/dev/null 2>&1
 }
 
+# check_resources FILE: the system reads icon, version and manifest (types 14, 16 and 24) out of the
+# program; the manifest has to say that the program knows sharp screens, UTF-8 and the newer controls.
+check_resources() {
+  local types word
+  types=$("$TRIPLET-objdump" -p "$1" | sed -n 's/^[0-9a-f]*   Entry: ID: 0x0*\([0-9a-f]*\),.*/\1/p')
+  for word in e 10 18; do
+    grep -qx "$word" <<<"$types" || { echo "$1 lacks the resource type 0x$word." >&2; return 1; }
+  done
+  for word in Microsoft.Windows.Common-Controls PerMonitorV2 '>UTF-8<' asInvoker; do
+    grep -qaF "$word" "$1" || { echo "The manifest of $1 lacks $word." >&2; return 1; }
+  done
+}
+
 # pack_program TARGET NAME: strips the program into the pack, and makes sure that it can stand alone.
 pack_program() {
   local file=$BUILD/pack/$2 dll size
@@ -33,6 +46,7 @@ pack_program() {
       return 1
     fi
   done < <("$TRIPLET-objdump" -p "$file" | sed -n 's/^\tDLL Name: //p' | tr '[:upper:]' '[:lower:]')
+  check_resources "$file"
   size=$(stat -c %s "$file")
   if [ "$size" -gt "$MOST_BYTES" ]; then
     echo "$2 has $size bytes, and may have $MOST_BYTES." >&2
@@ -66,7 +80,7 @@ make_archives() {
   (cd "$BUILD/pack" && zip -qr9 "$name-windows.zip" .)
   echo "$(basename "$name")-windows.zip: $(stat -c %s "$name-windows.zip") bytes"
   has_target ordex || return 0
-  makensis -V2 -INPUTCHARSET UTF8 "-DVERSION=$version" "-DPACK=$PWD/$BUILD/pack" \
+  makensis -V2 -WX -INPUTCHARSET UTF8 "-DVERSION=$version" "-DPACK=$PWD/$BUILD/pack" \
     "-DICON=$PWD/$BUILD/ordex.ico" "-DOUTPUT=$name-setup.exe" packaging/windows/installer.nsi
   echo "$(basename "$name")-setup.exe: $(stat -c %s "$name-setup.exe") bytes"
 }

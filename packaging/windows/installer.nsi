@@ -18,6 +18,7 @@ VIAddVersionKey /LANG=1040 "ProductName" "Ordex"
 VIAddVersionKey /LANG=1040 "FileDescription" "Installazione di Ordex"
 VIAddVersionKey /LANG=1040 "FileVersion" "${VERSION}"
 VIAddVersionKey /LANG=1040 "ProductVersion" "${VERSION}"
+VIAddVersionKey /LANG=1040 "LegalCopyright" "Ordex"
 
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Ordex"
 ; Copies of the mapping files as they were delivered: what differs from them the office has edited.

@@ -16,6 +16,9 @@ start_wine() {
   done
   DISPLAY=:$(cat "$display")
   export DISPLAY
+  # Boxes and windows get a title bar and the keyboard as on a desktop.
+  openbox >/dev/null 2>&1 &
+  OPENBOX=$!
   "$WINE" wineboot -i >"$1/wineboot.log" 2>&1
   mkfifo "$1/idle"
   "$WINE" cmd.exe <"$1/idle" >/dev/null 2>&1 &
@@ -35,5 +38,6 @@ windows_path() {
 stop_wine() {
   exec 8>&-
   [ -z "${WINEPREFIX:-}" ] || "$(dirname "$WINE")/wineserver" -k >/dev/null 2>&1 || true
+  [ -z "${OPENBOX:-}" ] || kill "$OPENBOX" 2>/dev/null || true
   [ -z "${XVFB:-}" ] || kill "$XVFB" 2>/dev/null || true
 }

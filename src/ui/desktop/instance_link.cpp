@@ -13,6 +13,11 @@ namespace {
 constexpr const char* kTopic = "MAIN";
 constexpr const char* kItem = "lblLinkDDE";
 
+// DDE names have no letter case: they come as whoever used them first wrote them.
+bool IsSame(const wxString& name, const char* ours) {
+  return name.CmpNoCase(ours) == 0;
+}
+
 class LinkConnection : public wxConnection {
  public:
   explicit LinkConnection(std::function<void()> onChange) : onChange_(std::move(onChange)) {}
@@ -20,9 +25,15 @@ class LinkConnection : public wxConnection {
   // The text says nothing: that the label changes is the signal.
   bool OnPoke(const wxString& /*topic*/, const wxString& item, const void* /*data*/,
               size_t /*size*/, wxIPCFormat /*format*/) override {
-    if (item != kItem) return false;
+    if (!IsSame(item, kItem)) return false;
     onChange_();
     return true;
+  }
+
+  // Who keeps the link up for as long as the other side runs is welcome; the label is never told
+  // on.
+  bool OnStartAdvise(const wxString& /*topic*/, const wxString& item) override {
+    return IsSame(item, kItem);
   }
 
  private:
@@ -32,7 +43,7 @@ class LinkConnection : public wxConnection {
 }  // namespace
 
 wxConnectionBase* LinkServer::OnAcceptConnection(const wxString& topic) {
-  if (topic != kTopic) return nullptr;
+  if (!IsSame(topic, kTopic)) return nullptr;
   return new LinkConnection(onChange_);
 }
 
@@ -42,7 +53,8 @@ bool PokeFirstInstance(const std::string& service, const std::string& text) {
   const std::unique_ptr<wxConnectionBase> connection(
       client.MakeConnection("localhost", Wx(service), kTopic));
   if (connection == nullptr) return false;
-  const bool told = connection->Poke(kItem, Wx(text));
+  // As plain text, which every program understands.
+  const bool told = connection->Poke(kItem, text.c_str());
   connection->Disconnect();
   return told;
 }

@@ -1,6 +1,10 @@
 // The signal of a second start to the first instance: the link "Ordex|MAIN", item "lblLinkDDE".
 #pragma once
 
+// Says which system this is; the next header asks and does not include it, and would choose sockets
+// where there is DDE.
+#include <wx/defs.h>
+//
 #include <wx/ipc.h>
 
 #include <functional>

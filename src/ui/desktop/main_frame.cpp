@@ -145,8 +145,11 @@ void MainFrame::ShowDetailsWhereTheyFit() {
   const bool fit = body->GetClientSize().GetHeight() - above >= FromDIP(kLeastListHeight);
   if (details_->IsShown() != fit) details_->Show(fit);
   rows->GetItem(header_)->SetProportion(fit ? 0 : 1);
+  const wxRect before = commands_->GetRect();
   body->Layout();
   SettleLayout(*this);
+  // What moves takes along what was drawn, even where that waits to be drawn anew.
+  if (commands_->GetRect() != before) Refresh();
 }
 
 void MainFrame::Open() {

@@ -1,29 +1,18 @@
 #include "ui/desktop/system_clipboard.h"
 
 #include <wx/clipbrd.h>
-#include <wx/utils.h>
 
-#include "base/error.h"
+#include "ui/desktop/clipboard_patience.h"
 #include "ui/desktop/wx_text.h"
 
 namespace ordex::desktop {
 namespace {
 
-constexpr int kTries = 11;
-constexpr int kPause = 50;  // milliseconds
-
 // The clipboard, open for as long as this object lives.
 class OpenClipboard {
  public:
   OpenClipboard() {
-    for (int tried = 1; !wxTheClipboard->Open(); ++tried) {
-      if (tried == kTries) {
-        throw MakeError(ErrorNumber::kClipboardBusy,
-                        "un altro programma tiene occupati gli appunti. Copiare di nuovo la pagina "
-                        "e riavviare Ordex.");
-      }
-      wxMilliSleep(kPause);
-    }
+    OpenPatiently([] { return wxTheClipboard->Open(); });
   }
   ~OpenClipboard() { wxTheClipboard->Close(); }
   OpenClipboard(const OpenClipboard&) = delete;
