@@ -25,8 +25,8 @@ namespace {
 
 constexpr int kWrongCall = 2;
 constexpr int kUnexpectedError = 4;
-// The first instance may be just ending, or just starting.
-constexpr int kTries = 3;
+// The first instance may be just ending, or just starting: on a busy machine that takes seconds.
+constexpr int kTries = 50;
 constexpr int kPause = 100;  // milliseconds
 
 void Tell(const std::string& text, long icon) {
