@@ -4,6 +4,6 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
-need_packages $BUILD_PACKAGES $DESKTOP_PACKAGES $TEST_PACKAGES $GUI_TEST_PACKAGES libxtst-dev
+need_packages $BUILD_PACKAGES $DESKTOP_PACKAGES $TEST_PACKAGES $GUI_TEST_PACKAGES $STARTUP_BENCH_PACKAGES
 build_preset release --target startup_bench
 exec build/release/bench/startup/startup_bench "$@"

@@ -9,6 +9,8 @@ TEST_PACKAGES="libgtest-dev libgmock-dev libsqliteodbc tdsodbc"
 # A display of the tests' own, a window manager, and hands and eyes for it.
 GUI_TEST_PACKAGES="xvfb openbox xdotool xclip x11-utils"
 BENCH_PACKAGES="libbenchmark-dev"
+# To press keys in the window whose start is measured.
+STARTUP_BENCH_PACKAGES="libxtst-dev"
 # For the Windows programs: the compiler, and what their libraries' sources and icon are made with.
 WINDOWS_PACKAGES="g++-mingw-w64-x86-64-posix gcc g++ make cmake ninja-build pkg-config ccache dpkg-dev tcl
   libcli11-dev nlohmann-json3-dev librsvg2-bin imagemagick nsis zip"

@@ -25,8 +25,8 @@ namespace {
 
 constexpr int kWrongCall = 2;
 constexpr int kUnexpectedError = 4;
-// The first instance may be just ending, or just starting: on a busy machine that takes seconds.
-constexpr int kTries = 50;
+// The first instance may be just ending, or just starting.
+constexpr int kTries = 3;
 constexpr int kPause = 100;  // milliseconds
 
 void Tell(const std::string& text, long icon) {
@@ -105,15 +105,16 @@ void OrdexApp::ShowOrdex() const {
 }
 
 void OrdexApp::OpenWindow() {
-  const std::filesystem::path folder =
-      ProgramFolder(options_.dir, ExecutableFile(Utf8(argv[0]).c_str()));
-  desk_ = std::make_unique<Desk>(folder, *settings_, *clock_,
-                                 [this](EndReason reason) { Finish(ExitCodeOf(reason)); });
-  // A poke may come while the window still loads; it waits for the end of that.
+  // The link first: whoever finds the lock taken tries it only a few times. A poke that comes while
+  // the window is made or loads waits for the end of that.
   server_ = std::make_unique<LinkServer>([this] { desk_->frame()->CallAfter(&MainFrame::Poke); });
   if (!server_->Create(Wx(LinkService()))) {
     throw MakeError(ErrorNumber::kFileAccess, "impossibile aprire il collegamento tra due avvii");
   }
+  const std::filesystem::path folder =
+      ProgramFolder(options_.dir, ExecutableFile(Utf8(argv[0]).c_str()));
+  desk_ = std::make_unique<Desk>(folder, *settings_, *clock_,
+                                 [this](EndReason reason) { Finish(ExitCodeOf(reason)); });
   desk_->Start();
 }
 
