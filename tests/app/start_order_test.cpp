@@ -10,6 +10,11 @@
 namespace ordex::testing {
 namespace {
 
+constexpr const char* kNoUser =
+    "Tipo non corrispondente: nelle impostazioni di \"Zelmo32\", sezione \"Shared\", il valore di "
+    "\"Id_Utente\" è \"ROSSI\" e non il numero di un utente. Aprire Praxion e accedere, poi "
+    "avviare di nuovo Ordex";
+
 using Texts = std::vector<std::string>;
 
 // From the last fault that a start can meet to the first. Each test has its own fault and all those
@@ -63,7 +68,7 @@ TEST(OrderOfTheStart, TheDatabaseComesBeforeTheUser) {
 TEST(OrderOfTheStart, TheUserComesBeforeTheFieldMap) {
   FaultyStart start(Fault::kUser);
   EXPECT_EQ(start.window.ended(), EndReason::kError);
-  EXPECT_EQ(start.Box(), "Errore di run-time '13': Tipo non corrispondente: \"ROSSI\"");
+  EXPECT_EQ(start.Box(), "Errore di run-time '13': " + std::string(kNoUser));
 }
 
 TEST(OrderOfTheStart, TheFieldMapComesBeforeThePageFile) {
@@ -85,9 +90,8 @@ TEST(OrderOfTheStart, ThePageFileComesBehindTheCaption) {
 
 TEST(OrderOfTheStart, AnErrorIsToldToTheDiagnosticsAndDoesNotUnload) {
   FaultyStart start(Fault::kUser);
-  EXPECT_EQ(
-      start.office.diagnostics.failed,
-      (std::vector<NotedError>{{"", 13, "Tipo non corrispondente: \"ROSSI\"", std::nullopt}}));
+  EXPECT_EQ(start.office.diagnostics.failed,
+            (std::vector<NotedError>{{"", 13, kNoUser, std::nullopt}}));
   EXPECT_EQ(start.settings.saved, (Texts{"Shared/OrdexHandle=4711"}));
 }
 
