@@ -13,9 +13,10 @@ session_names() {
   "$SESSIONS" --gtest_list_tests | awk '/^[^ ].*\.$/ { suite = $1 } /^  / { print suite $1 }'
 }
 
-# A folder's name is written with the system's own separators.
+# plain_transcript FILE: a folder's name is written with the system's own separators, which an event in
+# JSON doubles.
 plain_transcript() {
-  sed -E 's#\\\\#/#g' "$@"
+  sed -E '/^\{/ s#\\\\#/#g; /^\{/! s#\\#/#g' "$1"
 }
 
 # run_recorded NAME FOLDER CONSOLE...: the session through that console, its transcripts in FOLDER.
