@@ -306,7 +306,10 @@ TEST(StoppedTrial, OfAHistoryWhosePlaceCannotBeReadTellsNoLineAndIsNoFaultOfTheF
   ASSERT_NE(trial, nullptr);
   ASSERT_TRUE(trial->stop.has_value());
   EXPECT_EQ(trial->stop->error.number(), 13);
-  EXPECT_EQ(trial->stop->error.description(), "Tipo non corrispondente: \"sette\"");
+  EXPECT_EQ(trial->stop->error.description(),
+            "Tipo non corrispondente: il totale degli eventi dello storico non si legge: tra "
+            "\"Elenco(\" (DELSF4) e \"righe)\" (DELSF5) sta \"sette\". Copiare di nuovo la pagina, "
+            "oppure correggere i due testi in \"MapDelimitatori.txt\"");
   EXPECT_FALSE(trial->stop->inPage);
   EXPECT_EQ(trial->lines.size(), 0U);
   EXPECT_EQ(trial->window.frmMain.caption, "Ordex - storico del fascicolo - elenco eventi");

@@ -25,8 +25,9 @@ namespace {
 
 constexpr int kWrongCall = 2;
 constexpr int kUnexpectedError = 4;
-// The first instance may be just ending, or just starting.
-constexpr int kTries = 3;
+// The first instance may be just ending, or still loading with more callers waiting than the system
+// lets wait: on a busy machine that takes seconds.
+constexpr int kTries = 50;
 constexpr int kPause = 100;  // milliseconds
 
 void Tell(const std::string& text, long icon) {
@@ -105,8 +106,8 @@ void OrdexApp::ShowOrdex() const {
 }
 
 void OrdexApp::OpenWindow() {
-  // The link first: whoever finds the lock taken tries it only a few times. A poke that comes while
-  // the window is made or loads waits for the end of that.
+  // The link first: whoever finds the lock taken looks for it. A poke that comes while the window
+  // is made or loads waits for the end of that.
   server_ = std::make_unique<LinkServer>([this] { desk_->frame()->CallAfter(&MainFrame::Poke); });
   if (!server_->Create(Wx(LinkService()))) {
     throw MakeError(ErrorNumber::kFileAccess, "impossibile aprire il collegamento tra due avvii");
