@@ -55,6 +55,17 @@ std::string ReadMappingFile(const std::filesystem::path& file) {
   }
 }
 
+// An editor's "Unicode" is UTF-16: read by bytes, no line of it would be found again.
+void RequireBytesOfText(const std::filesystem::path& file, std::string_view text) {
+  if (text.find('\0') == std::string_view::npos) return;
+  throw FileLineError(ErrorNumber::kFileAccess,
+                      Describe(ErrorNumber::kFileAccess,
+                               "il file \"" + TextOf(file.filename()) +
+                                   "\" contiene caratteri nulli: forse è salvato come UTF-16 "
+                                   "(\"Unicode\"). Salvarlo di nuovo come UTF-8."),
+                      0);
+}
+
 void LoadMappingFile(KeyedTable& table, const std::filesystem::path& file, Values values) {
   table.Clear();
   for (const MappingLine& line : ReadMappingLines(file)) AddEntry(table, file, line, values);
@@ -64,6 +75,7 @@ void LoadMappingFile(KeyedTable& table, const std::filesystem::path& file, Value
 
 std::vector<MappingLine> ReadMappingLines(const std::filesystem::path& file) {
   const std::string text = ReadMappingFile(file);
+  RequireBytesOfText(file, text);
   std::vector<MappingLine> entries;
   Lines lines(text);
   for (std::size_t number = 1; !lines.AtEnd(); ++number) {

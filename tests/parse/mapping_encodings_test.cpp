@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <string>
 #include <string_view>
 
 #include "import_bench.h"
 #include "parse/mapping_files.h"
+#include "raised.h"
 #include "support/temp_folder.h"
 
 namespace ordex::testing {
@@ -55,6 +57,15 @@ TEST_F(MappingEncodings, AOneCharacterLineOfWindows1252IsIgnored) {
 
 TEST_F(MappingEncodings, TwoCharactersOfWindows1252AreAnEntry) {
   EXPECT_EQ(Loaded("\xE8=\n"), (NamedValues{{"", "è"}}));
+}
+
+TEST_F(MappingEncodings, Utf16IsRefusedAndSaysHowToSaveTheFile) {
+  const std::string bytes("\xFF\xFEO\0=\0A\0\r\0\n\0", 12);
+  EXPECT_EQ(RaisedBy([&] { Loaded(bytes); }),
+            (Raised{75,
+                    "Errore di accesso al file: il file \"MapCampi.txt\" contiene caratteri nulli: "
+                    "forse è salvato come UTF-16 (\"Unicode\"). Salvarlo di nuovo come UTF-8.",
+                    0}));
 }
 
 // As Windows-1252 the two bytes of the UTF-8 sign read "Â°": still a comment.
