@@ -5,6 +5,7 @@
 #include <sqlite3.h>
 
 #include <fstream>
+#include <system_error>
 #include <vector>
 
 #include "connection_contract.h"
@@ -302,7 +303,9 @@ TEST(SqliteFileThatIsGone, TakesNoWrite) {
   const std::vector<NamedValue> user = {{"NomeUtente", Text("A")}};
   connection->Begin();
   connection->Insert("Utenti", user);
-  std::filesystem::remove(file);
+  std::error_code kept;
+  std::filesystem::remove(file, kept);
+  if (kept) GTEST_SKIP() << "this system removes no file that is open: " << kept.message();
   const DbRaised gone = DbError(
       "il file del database è stato spostato, eliminato o sostituito mentre era aperto; "
       "chiudere Ordex, rimettere il file al suo posto e copiare di nuovo la pagina");
