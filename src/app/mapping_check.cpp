@@ -94,7 +94,7 @@ class Check {
     try {
       entries = ReadMappingLines(programFolder / file);
     } catch (const FileLineError& error) {
-      Add(file, 0, Severity::kError, error.description());
+      Add(file, error.line(), Severity::kError, error.description());
       allRead_ = false;
       return entries;
     }

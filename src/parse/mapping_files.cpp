@@ -56,14 +56,16 @@ std::string ReadMappingFile(const std::filesystem::path& file) {
 }
 
 // An editor's "Unicode" is UTF-16: read by bytes, no line of it would be found again.
-void RequireBytesOfText(const std::filesystem::path& file, std::string_view text) {
-  if (text.find('\0') == std::string_view::npos) return;
-  throw FileLineError(ErrorNumber::kFileAccess,
-                      Describe(ErrorNumber::kFileAccess,
-                               "il file \"" + TextOf(file.filename()) +
-                                   "\" contiene caratteri nulli: forse è salvato come UTF-16 "
-                                   "(\"Unicode\"). Salvarlo di nuovo come UTF-8."),
-                      0);
+void RequireBytesOfText(const std::filesystem::path& file, std::size_t number,
+                        std::string_view line) {
+  if (line.find('\0') == std::string_view::npos) return;
+  throw FileLineError(
+      ErrorNumber::kFileAccess,
+      Describe(ErrorNumber::kFileAccess,
+               "il file \"" + TextOf(file.filename()) + "\", riga " + std::to_string(number) +
+                   ", contiene caratteri nulli: forse è salvato come UTF-16 "
+                   "(\"Unicode\"). Salvarlo di nuovo come UTF-8."),
+      number);
 }
 
 void LoadMappingFile(KeyedTable& table, const std::filesystem::path& file, Values values) {
@@ -75,11 +77,11 @@ void LoadMappingFile(KeyedTable& table, const std::filesystem::path& file, Value
 
 std::vector<MappingLine> ReadMappingLines(const std::filesystem::path& file) {
   const std::string text = ReadMappingFile(file);
-  RequireBytesOfText(file, text);
   std::vector<MappingLine> entries;
   Lines lines(text);
   for (std::size_t number = 1; !lines.AtEnd(); ++number) {
     const std::string_view line = lines.Next();
+    RequireBytesOfText(file, number, line);
     if (!IsEntry(line)) continue;
     const auto halves = SplitOnce(line, "=");
     entries.push_back({number, std::string(line), halves.has_value(),

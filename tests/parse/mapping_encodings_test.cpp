@@ -61,11 +61,13 @@ TEST_F(MappingEncodings, TwoCharactersOfWindows1252AreAnEntry) {
 
 TEST_F(MappingEncodings, Utf16IsRefusedAndSaysHowToSaveTheFile) {
   const std::string bytes("\xFF\xFEO\0=\0A\0\r\0\n\0", 12);
-  EXPECT_EQ(RaisedBy([&] { Loaded(bytes); }),
-            (Raised{75,
-                    "Errore di accesso al file: il file \"MapCampi.txt\" contiene caratteri nulli: "
-                    "forse è salvato come UTF-16 (\"Unicode\"). Salvarlo di nuovo come UTF-8.",
-                    0}));
+  EXPECT_EQ(
+      RaisedBy([&] { Loaded(bytes); }),
+      (Raised{
+          75,
+          "Errore di accesso al file: il file \"MapCampi.txt\", riga 1, contiene caratteri nulli: "
+          "forse è salvato come UTF-16 (\"Unicode\"). Salvarlo di nuovo come UTF-8.",
+          1}));
 }
 
 // As Windows-1252 the two bytes of the UTF-8 sign read "Â°": still a comment.
