@@ -65,7 +65,7 @@ bool IsSocieta(std::string_view name) {
 
 std::string EstraiCognomi(std::string_view name, std::string& nome) {
   RequireCountable(name);
-  const std::string text = ReplaceAll(Trim(name), "\"", "");
+  std::string text = ReplaceAll(Trim(name), "\"", "");
   if (std::count(text.begin(), text.end(), ' ') >= 3) return text;
   std::size_t p = Find(text, " ");
   if (p == 3) p = BlankBehindParticle(text, 4, {"di", "de", "la"});

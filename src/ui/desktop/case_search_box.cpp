@@ -3,6 +3,7 @@
 #include <wx/toplevel.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "base/text.h"
 #include "ui/desktop/wx_text.h"
@@ -16,11 +17,11 @@ constexpr int kDropDownWidth = 560;
 
 }  // namespace
 
-CaseSearchBox::CaseSearchBox(wxWindow* parent, const CaseHeader& header, const ActRunner& run)
+CaseSearchBox::CaseSearchBox(wxWindow* parent, const CaseHeader& header, ActRunner run)
     : wxTextCtrl(parent, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, wxTE_PROCESS_ENTER,
                  wxDefaultValidator, "ctlTestata1"),
       header_(header),
-      run_(run),
+      run_(std::move(run)),
       pause_(this),
       popup_(new wxPopupWindow(this, wxBORDER_SIMPLE)),
       hits_(new wxListBox(popup_, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr,

@@ -16,7 +16,7 @@ namespace ordex::desktop {
 
 class CaseSearchBox : public wxTextCtrl {
  public:
-  CaseSearchBox(wxWindow* parent, const CaseHeader& header, const ActRunner& run);
+  CaseSearchBox(wxWindow* parent, const CaseHeader& header, ActRunner run);
 
   // Takes the header's search text over where the program has changed it.
   void Draw();

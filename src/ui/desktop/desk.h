@@ -19,6 +19,7 @@ class Desk {
   // deletes some time after Close.
   Desk(const std::filesystem::path& programFolder, Settings& settings, Clock& clock,
        std::function<void(EndReason)> onEnd);
+  ~Desk() = default;
   Desk(const Desk&) = delete;
   Desk& operator=(const Desk&) = delete;
 
