@@ -1,5 +1,7 @@
 // The loaders of the mapping files, on any bytes.
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "base/error.h"
 #include "base/text.h"
@@ -17,6 +19,22 @@ void CheckEntry(const MappingLine& line) {
   Require(!Contains(line.left, "="), "a line is cut at its first equals sign");
 }
 
+void CheckError(const FileLineError& error) {
+  Require(error.line() >= 1, "an error names its line");
+  Require(Contains(error.description(), "riga " + std::to_string(error.line())),
+          "and says it to the user");
+}
+
+// Nothing where a line holds what no text holds.
+std::optional<std::vector<MappingLine>> LinesOf(const Folder& folder) {
+  try {
+    return ReadMappingLines(folder.path() / kMapCampi);
+  } catch (const FileLineError& error) {
+    CheckError(error);
+    return std::nullopt;
+  }
+}
+
 void Load(const Folder& folder, void (*load)(Mappings&), KeyedTable Mappings::*table,
           const std::vector<MappingLine>& lines) {
   Mappings mappings;
@@ -25,9 +43,7 @@ void Load(const Folder& folder, void (*load)(Mappings&), KeyedTable Mappings::*t
     load(mappings);
     Require((mappings.*table).Count() == lines.size(), "every line gives an entry");
   } catch (const FileLineError& error) {
-    Require(error.line() >= 1, "an error names its line");
-    Require(Contains(error.description(), "riga " + std::to_string(error.line())),
-            "and says it to the user");
+    CheckError(error);
   }
 }
 
@@ -42,10 +58,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   for (const std::string_view name : {kMapRestr, kMapCampi, kMapDelimitatori}) {
     folder.Write(name, bytes);
   }
-  const std::vector<MappingLine> lines = ReadMappingLines(folder.path() / kMapCampi);
-  for (const MappingLine& line : lines) CheckEntry(line);
-  Load(folder, LoadRestr, &Mappings::cRestr, lines);
-  Load(folder, LoadOrdexMap, &Mappings::cOrdexMap, lines);
-  Load(folder, LoadDelimitatori, &Mappings::cDelimitatori, lines);
+  const auto lines = LinesOf(folder);
+  if (!lines) return 0;
+  for (const MappingLine& line : *lines) CheckEntry(line);
+  Load(folder, LoadRestr, &Mappings::cRestr, *lines);
+  Load(folder, LoadOrdexMap, &Mappings::cOrdexMap, *lines);
+  Load(folder, LoadDelimitatori, &Mappings::cDelimitatori, *lines);
   return 0;
 }

@@ -171,7 +171,7 @@ std::vector<std::string> OdbcCatalog::AskIdentity(const std::string& table) {
 
 // Where several schemas hold such a table, the one that the bare name stands for.
 std::string OdbcCatalog::SchemaOf(const std::vector<Reported>& reported) {
-  const std::string first = reported.front().schema;
+  std::string first = reported.front().schema;
   const auto holds = [&](std::string_view schema) {
     return std::any_of(reported.begin(), reported.end(),
                        [&](const Reported& each) { return each.schema == schema; });
@@ -183,7 +183,7 @@ std::string OdbcCatalog::SchemaOf(const std::vector<Reported>& reported) {
   OdbcStatement statement(link_);
   statement.ExecuteDirect(sql);
   const CloseLater close(statement);
-  const std::string own = statement.Fetch() ? ToText(statement.Get(1, ColumnType::kText)) : "";
+  std::string own = statement.Fetch() ? ToText(statement.Get(1, ColumnType::kText)) : "";
   if (holds(own)) return own;
   return holds("dbo") ? "dbo" : first;
 }

@@ -298,9 +298,10 @@ bool Session::ActOnPersonCard(const Command& command) {
   const std::string_view control = Trim(command.rest);
   if (command.verb == "close") {
     dialog.Close();
-  } else if (command.verb != "click") {
-    return false;
-  } else if (control == "cmdSi") {
+    return true;
+  }
+  if (command.verb != "click") return false;
+  if (control == "cmdSi") {
     dialog.cmdSi_Click();
   } else if (control == "cmdNo") {
     dialog.cmdNo_Click();

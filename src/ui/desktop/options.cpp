@@ -8,7 +8,7 @@ namespace {
 DateTime ReadNow(const std::string& text) {
   const auto now = ParseDayFirst(text);
   if (!now) {
-    throw std::invalid_argument("--now vuole una data nella forma \"GG/MM/AAAA HH:MM:SS\", non \"" +
+    throw std::invalid_argument(R"(--now vuole una data nella forma "GG/MM/AAAA HH:MM:SS", non ")" +
                                 text + "\".");
   }
   return *now;
