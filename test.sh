@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Passes the tests, on a bare Debian machine too.
 #   ./test.sh        the quick set: unit, contract, session and window tests
-#   ./test.sh --all  also format and lint, the benchmarks once, the sanitizers, a short search by the
-#                    fuzz targets, and the Windows programs under Wine
+#   ./test.sh --all  also format and lint, the benchmarks once, the sanitizers, the coverage, a short
+#                    search by the fuzz targets, and the Windows programs under Wine
 set -euo pipefail
 export PATH="${PATH:-/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin}" HOME="${HOME:-/root}"
 cd "$(dirname "$0")"
@@ -42,13 +42,14 @@ sanitized() {
 
 all() {
   need_packages $BUILD_PACKAGES $DESKTOP_PACKAGES $TEST_PACKAGES $GUI_TEST_PACKAGES $BENCH_PACKAGES \
-    $FUZZ_PACKAGES $LINT_PACKAGES
+    $FUZZ_PACKAGES $LINT_PACKAGES $COVERAGE_PACKAGES
   stage "format" scripts/lint.sh --format
   quick
   stage "lint" scripts/lint.sh
   stage "benchmarks, once each" bench/run.sh --once
   stage "start of the window, once" bench/startup.sh 1
   stage "address and undefined-behaviour sanitizers" sanitized
+  stage "coverage" scripts/coverage.sh
   stage "fuzz targets" fuzz/run.sh "$FUZZ_SECONDS"
   stage "Windows programs" packaging/windows/build.sh
   stage "Windows programs under Wine" packaging/windows/test.sh

@@ -22,6 +22,7 @@
 #include "ui/console/command_source.h"
 #include "ui/console/database_verbs.h"
 #include "ui/console/explain.h"
+#include "ui/console/italian_words.h"
 #include "ui/console/json_events.h"
 #include "ui/console/session.h"
 #include "ui/console/terminal.h"
@@ -183,6 +184,7 @@ int Main(std::vector<std::string> arguments, const fs::path& executable) {
   explain->add_option("--dir", options.dir, "cartella del programma");
   explain->add_flag("--json", options.json, "un oggetto JSON per riga");
   explain->add_option("PAGEFILE", options.pageFile, "il testo di una pagina")->required();
+  SpeakItalian(app);
   try {
     // Taken from the back.
     std::reverse(arguments.begin(), arguments.end());
@@ -197,7 +199,7 @@ int Main(std::vector<std::string> arguments, const fs::path& executable) {
     std::cout << app.help();
     return 0;
   } catch (const CLI::ParseError& error) {
-    std::cerr << "Chiamata non valida (" << error.what()
+    std::cerr << "Chiamata non valida (" << CauseOf(error)
               << "). \"ordex-console --help\" mostra come si usa.\n";
   } catch (const WrongCall& wrong) {
     std::cerr << wrong.text << "\n";
