@@ -19,7 +19,7 @@ void SetText(wxStaticText& label, std::string_view text) {
   const wxString shown = Wx(text.empty() ? kNothing : text);
   if (label.GetLabelText() == shown) return;
   label.SetLabelText(shown);
-  label.SetToolTip(shown);
+  label.SetToolTip(Wx(text));
 }
 
 }  // namespace
