@@ -84,9 +84,9 @@ struct Expected {
 };
 
 // The course that ends so. `before` are the boxes ahead of the closing one.
-Expected CourseOf(const WholeImport& import, Ending ending, bool personError, bool behindQuestion) {
+Expected CourseOf(const WholeImport& whole, Ending ending, bool personError, bool behindQuestion) {
   Labels before;
-  if (behindQuestion) before.assign(import.boxes.begin(), import.boxes.end() - 1);
+  if (behindQuestion) before.assign(whole.boxes.begin(), whole.boxes.end() - 1);
   if (personError) before.emplace_back("Praxion");
   const auto with = [&](const std::string& title) {
     Labels boxes = before;
@@ -95,9 +95,9 @@ Expected CourseOf(const WholeImport& import, Ending ending, bool personError, bo
   };
   switch (ending) {
     case Ending::kDone:
-      return {with(import.boxes.back()),
+      return {with(whole.boxes.back()),
               {},
-              import.name == "Agenda" ? std::nullopt : std::optional(EndReason::kDone)};
+              whole.name == "Agenda" ? std::nullopt : std::optional(EndReason::kDone)};
     case Ending::kReport:
       return {with("Ordex"), {kReport}, EndReason::kError};
     case Ending::kSilent:
@@ -213,29 +213,29 @@ TEST_P(FailingStatements, AloneCostTheUserWhatTheirHandlerSays) {
 
 // The engine itself has taken back what the press had written: nothing of it may count as done.
 TEST_P(FailingStatements, ThatEndTheTransactionLoseAllOfIt) {
-  const WholeImport& import = GetParam();
-  const Ending ending = import.name == "Agenda" ? Ending::kReport
-                        : import.creates        ? Ending::kAskedAgain
-                                                : Ending::kSilent;
+  const WholeImport& whole = GetParam();
+  const Ending ending = whole.name == "Agenda" ? Ending::kReport
+                        : whole.creates        ? Ending::kAskedAgain
+                                               : Ending::kSilent;
   for (std::size_t number = Place("BEGIN") + 1; number <= Place("COMMIT"); ++number) {
-    ExpectCourse(number, Failing::kEndsTransaction, ending, import.ahead, false);
+    ExpectCourse(number, Failing::kEndsTransaction, ending, whole.ahead, false);
   }
 }
 
 // Not even the way back works any more, so only what was durable before is there. Where the user is
 // asked again whether to create the case, reading the users for it is what ends the program.
 TEST_P(FailingStatements, OfALineThatStaysDeadLeaveNothingHalfWritten) {
-  const WholeImport& import = GetParam();
+  const WholeImport& whole = GetParam();
   for (std::size_t number = Place("BEGIN"); number <= Place("COMMIT"); ++number) {
     SCOPED_TRACE("from statement " + std::to_string(number));
     Office office(original_);
     const Rows before = RowsOf(office);
-    const Course course = RunImport(office, import.script, number, Failing::kFromThereOn);
-    const bool silent = !import.creates && import.name != "Agenda";
+    const Course course = RunImport(office, whole.script, number, Failing::kFromThereOn);
+    const bool silent = !whole.creates && whole.name != "Agenda";
     EXPECT_EQ(course.ended, silent ? EndReason::kFailed : EndReason::kError);
     EXPECT_EQ(course.reports, silent ? Labels{} : Labels{kReport});
-    EXPECT_EQ(std::count(course.boxes.begin(), course.boxes.end(), import.boxes.back()), 0);
-    EXPECT_EQ(LabelsOf(Difference(RowsOf(office), before)), Sorted(import.ahead));
+    EXPECT_EQ(std::count(course.boxes.begin(), course.boxes.end(), whole.boxes.back()), 0);
+    EXPECT_EQ(LabelsOf(Difference(RowsOf(office), before)), Sorted(whole.ahead));
     EXPECT_EQ(LabelsOf(Difference(before, RowsOf(office))), Labels{});
     ExpectSoundOffice(office, course);
   }
@@ -272,7 +272,7 @@ TEST_P(FailingCreates, NeverMakeASecondCase) {
 
 std::vector<WholeImport> ImportsThat(bool create) {
   std::vector<WholeImport> imports = WholeImports();
-  std::erase_if(imports, [&](const WholeImport& import) { return import.creates != create; });
+  std::erase_if(imports, [&](const WholeImport& whole) { return whole.creates != create; });
   return imports;
 }
 
