@@ -85,23 +85,33 @@ FunctionEnd
 !insertmacro DefineSameFile "un."
 
 ; StopIfRunning: a program that is running cannot be replaced, and half an installation helps nobody.
+; A program that is just ending, or that a virus scanner has just opened, is given five seconds.
+!define TRIES 25
+!define TRY_AFTER_MILLISECONDS 200
 !macro DefineStopIfRunning prefix
 Function ${prefix}StopIfRunning
   Push $0
-  ${If} ${FileExists} "$INSTDIR\Ordex.exe"
-    ${Do}
-      ClearErrors
-      FileOpen $0 "$INSTDIR\Ordex.exe" a
-      ${IfNot} ${Errors}
-        FileClose $0
-        ${Break}
-      ${EndIf}
-      MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Ordex è in esecuzione. Chiudere la finestra di Ordex e riprovare." /SD IDCANCEL IDRETRY again
-      SetErrorLevel 2
-      Abort
-      again:
-    ${Loop}
-  ${EndIf}
+  Push $1
+  StrCpy $1 0
+  ${DoWhile} ${FileExists} "$INSTDIR\Ordex.exe"
+    ClearErrors
+    FileOpen $0 "$INSTDIR\Ordex.exe" a
+    ${IfNot} ${Errors}
+      FileClose $0
+      ${Break}
+    ${EndIf}
+    IntOp $1 $1 + 1
+    ${If} $1 < ${TRIES}
+      Sleep ${TRY_AFTER_MILLISECONDS}
+      ${Continue}
+    ${EndIf}
+    StrCpy $1 0
+    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Ordex è in esecuzione. Chiudere la finestra di Ordex e riprovare." /SD IDCANCEL IDRETRY again
+    SetErrorLevel 2
+    Abort
+    again:
+  ${Loop}
+  Pop $1
   Pop $0
 FunctionEnd
 !macroend
@@ -149,6 +159,7 @@ FunctionEnd
 Section
   Call StopIfRunning
   InitPluginsDir
+  ClearErrors
   SetOutPath "$INSTDIR"
   ${If} ${Errors}
     SetErrorLevel 2

@@ -59,7 +59,7 @@ check_upgrade() {
   printf 'STUDIO=nostro\r\n' >>"$FOLDER/MapCampi.txt"
   rm "$FOLDER/MapRestr.txt"
   cp "$FOLDER/MapCampi.txt" "$WORK/installer/edited.txt"
-  wine "$WORK/installer/next-setup.exe" /S || fail "the upgrade"
+  wine "$WORK/installer/next-setup.exe" /S || fail "the upgrade: exit code $?"
   cmp "$FOLDER/MapCampi.txt" "$WORK/installer/edited.txt" || fail "an edited file is not kept"
   cmp "$FOLDER/MapCampi.nuovo.txt" "$WORK/installer/pack/MapCampi.txt" || fail "the new one beside it"
   cmp "$FOLDER/MapDelimitatori.txt" "$WORK/installer/pack/MapDelimitatori.txt" ||
@@ -69,27 +69,29 @@ check_upgrade() {
   same "version" 9.9 "$(registry_value "$UNINSTALL_KEY" DisplayVersion)"
 }
 
-# A program that runs cannot be replaced: nothing is changed, and the exit code tells.
-check_running() {
-  local program code=0
+# start_program: its box of options stays until the process is ended.
+start_program() {
   "$WINE" "$FOLDER/Ordex.exe" --help &
-  program=$!
-  wait_until grep -q Ordex.exe "/proc/$program/maps"
-  wine "$BUILD"/ordex-*-setup.exe /S || code=$?
-  same "exit code while the program runs" 2 "$code"
-  kill "$program"
-  wait "$program" 2>/dev/null || true
-  wait_until can_be_written 'Ordex.exe'
-  same "version after that" 9.9 "$(registry_value "$UNINSTALL_KEY" DisplayVersion)"
+  PROGRAM=$!
+  wait_until grep -q Ordex.exe "/proc/$PROGRAM/maps"
 }
 
-# can_be_written NAME: a file of the program's folder; without a blank, cmd takes it unquoted.
-can_be_written() {
-  wine cmd.exe /c "type nul>>$WINDOWS_FOLDER\\$1 && echo written" 2>/dev/null | grep -q written
+# A program that runs cannot be replaced: nothing is changed, and the exit code tells. One that is just
+# ending is waited for.
+check_running() {
+  local code=0
+  start_program
+  wine "$BUILD"/ordex-*-setup.exe /S || code=$?
+  same "exit code while the program runs" 2 "$code"
+  same "version after that" 9.9 "$(registry_value "$UNINSTALL_KEY" DisplayVersion)"
+  { sleep 1; kill "$PROGRAM"; } &
+  wine "$BUILD"/ordex-*-setup.exe /S || fail "while the program is ending: exit code $?"
+  same "version after that" "$VERSION" "$(registry_value "$UNINSTALL_KEY" DisplayVersion)"
+  wait "$PROGRAM" 2>/dev/null || true
 }
 
 check_uninstall() {
-  wine "$FOLDER/disinstalla.exe" /S || fail "the uninstaller"
+  wine "$FOLDER/disinstalla.exe" /S || fail "the uninstaller: exit code $?"
   wait_until not_registered
   wait_until test ! -e "$FOLDER/disinstalla.exe"
   same "left behind" MapCampi.txt "$(names_in "$FOLDER")"
@@ -107,9 +109,10 @@ test_installer() {
   WINDOWS_FOLDER='C:\Niccolò\Ordex'
   FOLDER=$WINEPREFIX/drive_c/Niccolò/Ordex
   LINK=$(echo "$WINEPREFIX"/drive_c/users/*/AppData/Roaming/Microsoft/Windows)/"Start Menu/Programs/Ordex.lnk"
+  VERSION=$(basename "$BUILD"/ordex-*-setup.exe | cut -d- -f2)
   make_next_setup
   set_registry Shared Id_Utente 7
-  wine "$BUILD"/ordex-*-setup.exe /S "/D=$WINDOWS_FOLDER" || fail "the installer"
+  wine "$BUILD"/ordex-*-setup.exe /S "/D=$WINDOWS_FOLDER" || fail "the installer: exit code $?"
   check_installed
   check_link
   check_upgrade
@@ -117,9 +120,9 @@ test_installer() {
   check_uninstall
   # Where the user names no folder; with nothing of the office's own, nothing is left.
   FOLDER=$(echo "$WINEPREFIX"/drive_c/users/*/AppData/Local)/Programs/Ordex
-  wine "$BUILD"/ordex-*-setup.exe /S || fail "the installer without a folder"
+  wine "$BUILD"/ordex-*-setup.exe /S || fail "the installer without a folder: exit code $?"
   [ -f "$FOLDER/Ordex.exe" ] || fail "the usual folder"
-  wine "$FOLDER/disinstalla.exe" /S || fail "the uninstaller"
+  wine "$FOLDER/disinstalla.exe" /S || fail "the uninstaller: exit code $?"
   wait_until not_registered
   wait_until test ! -e "$FOLDER"
   wine reg delete "$SETTINGS_KEY" /f >/dev/null
