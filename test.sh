@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Passes the tests, on a bare Debian machine too.
 #   ./test.sh        the quick set: unit, contract, session and window tests
-#   ./test.sh --all  also format and lint, the benchmarks once, the sanitizers, the coverage, a short
-#                    search by the fuzz targets, and the Windows programs under Wine
+#   ./test.sh --all  also format and lint, the benchmarks once, sanitizers and coverage, a short search
+#                    by the fuzz targets, and the Windows programs under Wine
 set -euo pipefail
 export PATH="${PATH:-/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin}" HOME="${HOME:-/root}"
 cd "$(dirname "$0")"
@@ -19,31 +19,16 @@ stage() {
   echo "== $name: done in $((SECONDS - begin)) s"
 }
 
-# run_tests PRESET LOG [further options]
-run_tests() {
-  local preset=$1 log=$2
-  shift 2
-  ctest --test-dir "build/$preset" --output-on-failure -j "$(nproc)" --timeout 300 --no-tests=error "$@" |
-    tee "build/$preset/$log.log"
-}
-
 # Real keys and clicks on a real display: on a busy machine a window may lose them once.
 window_tests() {
-  run_tests release window-tests -R '^desktop:' --repeat until-pass:2
+  run_ctest release window-tests -R '^desktop:' --repeat until-pass:2
 }
 
 quick() {
   need_packages $BUILD_PACKAGES $DESKTOP_PACKAGES $TEST_PACKAGES $GUI_TEST_PACKAGES
   stage "release build" build_preset release
-  stage "tests" run_tests release tests -E '^desktop:'
+  stage "tests" run_ctest release tests -E '^desktop:'
   stage "window tests" window_tests
-}
-
-# The sessions pass through the instrumented console too; those through ODBC run the same code but for
-# the driver, which has its own tests here.
-sanitized() {
-  build_preset debug
-  run_tests debug tests -E '^(sessions-odbc|abuse):'
 }
 
 all() {
@@ -54,8 +39,7 @@ all() {
   stage "lint" scripts/lint.sh
   stage "benchmarks, once each" bench/run.sh --once
   stage "start of the window, once" bench/startup.sh 1
-  stage "address and undefined-behaviour sanitizers" sanitized
-  stage "coverage" scripts/coverage.sh
+  stage "sanitizers and coverage" scripts/instrumented.sh
   stage "fuzz targets" fuzz/run.sh "$FUZZ_SECONDS"
   stage "Windows programs" packaging/windows/build.sh
   stage "Windows programs under Wine" packaging/windows/test.sh

@@ -1,4 +1,4 @@
-# Debian packages by what they are needed for; to be sourced.
+# Debian packages by what they are needed for, and the steps that the scripts share; to be sourced.
 
 BUILD_PACKAGES="g++ cmake ninja-build pkg-config ccache libsqlite3-dev unixodbc-dev libutf8proc-dev libcli11-dev nlohmann-json3-dev"
 DESKTOP_PACKAGES="libwxgtk3.2-dev libgtk-3-dev libx11-dev"
@@ -41,4 +41,12 @@ build_preset() {
   shift
   cmake --preset "$preset" >/dev/null
   cmake --build --preset "$preset" -j "$(nproc)" "$@"
+}
+
+# run_ctest PRESET LOG [further options for ctest]
+run_ctest() {
+  local preset=$1 log=$2
+  shift 2
+  ctest --test-dir "build/$preset" --output-on-failure -j "$(nproc)" --timeout 300 --no-tests=error "$@" |
+    tee "build/$preset/$log.log"
 }
