@@ -119,10 +119,11 @@ std::vector<FoundCase> Search::Found() const {
   if (hits_.empty()) return {};
   std::string select(kSelectCaseNames);
   select.append(" WHERE p.ID_Pra IN (");
-  for (const std::int32_t id : hits_) select.append(std::to_string(id)).push_back(',');
+  for (std::size_t i = 0; i < hits_.size(); ++i) select.append("?,");
   select.back() = ')';
+  const std::vector<Value> ids(hits_.begin(), hits_.end());
   std::unordered_map<std::int32_t, FoundCase> cases;
-  for (const Row& row : connection_.PrepareNative(select, {})->FetchAll()) {
+  for (const Row& row : connection_.PrepareNative(select, ids)->FetchAll()) {
     const CaseNames names = ReadCaseNames(row);
     cases[names.idPra] = {names.idPra, names.numeroRG, names.Title()};
   }

@@ -95,6 +95,42 @@ TEST_P(ConnectionContract, ParametersTravelAsValuesAndNotAsText) {
             1U);
 }
 
+TEST_P(ConnectionContract, ASelectAskedAgainSeesWhatWasWrittenMeanwhile) {
+  const std::string sql = "SELECT Progressivo FROM EventiPraOrdex WHERE ID_PraRel = ?";
+  const auto progressivi = [&](std::int64_t idPra) {
+    const std::vector<Value> parameters = {Whole(idPra)};
+    return connection().PrepareNative(sql, parameters)->FetchAll();
+  };
+  EXPECT_TRUE(progressivi(1).empty());
+  AddEvent(1, 7);
+  EXPECT_EQ(progressivi(1), (std::vector<Row>{{Whole(7)}}));
+  EXPECT_TRUE(progressivi(2).empty());
+}
+
+TEST_P(ConnectionContract, TwoQueriesOfTheSameTextAreReadOnTheirOwn) {
+  AddEvent(1, 7);
+  AddEvent(2, 9);
+  const std::string sql = "SELECT Progressivo FROM EventiPraOrdex WHERE ID_PraRel = ?";
+  const std::vector<Value> first = {Whole(1)};
+  const std::vector<Value> second = {Whole(2)};
+  const auto one = connection().PrepareNative(sql, first);
+  const auto other = connection().PrepareNative(sql, second);
+  EXPECT_EQ(other->FetchAll(), (std::vector<Row>{{Whole(9)}}));
+  EXPECT_EQ(one->FetchAll(), (std::vector<Row>{{Whole(7)}}));
+}
+
+TEST_P(ConnectionContract, AQueryOutlivesManyOthers) {
+  AddEvent(1, 7);
+  const auto kept = connection().PrepareNative("SELECT Progressivo FROM EventiPraOrdex", {});
+  for (int i = 0; i < 40; ++i) {
+    const std::string sql = "SELECT ID_Ana FROM Anagrafica WHERE ID_Ana = " + std::to_string(i);
+    for (int again = 0; again < 2; ++again) {
+      EXPECT_EQ(connection().PrepareNative(sql, {})->FetchAll().size(), i == 1 ? 1U : 0U) << sql;
+    }
+  }
+  EXPECT_EQ(kept->FetchAll(), (std::vector<Row>{{Whole(7)}}));
+}
+
 TEST_P(ConnectionContract, ALimitedSelectGivesNoMoreRows) {
   for (int i = 1; i <= 5; ++i) AddEvent(1, i);
   const std::string sql =

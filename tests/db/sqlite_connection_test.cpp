@@ -286,6 +286,23 @@ TEST_F(SqliteConnectionTest, AColumnThatDoesNotExistIsNotTakenForAText) {
       kDatabaseNumber);
 }
 
+TEST_F(SqliteConnectionTest, ASelectAskedAgainSeesAColumnAddedMeanwhile) {
+  const auto columns = [this] {
+    return connection().PrepareNative("SELECT * FROM Utenti", {})->Columns().size();
+  };
+  const std::size_t before = columns();
+  connection().Execute("ALTER TABLE Utenti ADD COLUMN Nuova TEXT");
+  connection().PrepareNative("SELECT * FROM Utenti", {})->FetchAll();
+  EXPECT_EQ(columns(), before + 1);
+}
+
+TEST_F(SqliteConnectionTest, ASelectThatIsKeptForItsNextUseOutlivesItsConnection) {
+  auto connection = OpenSqlite(office_.file());
+  auto query = connection->PrepareNative("SELECT ID_Utente FROM Utenti", {});
+  connection.reset();
+  EXPECT_FALSE(query->FetchAll().empty());
+}
+
 TEST_F(SqliteConnectionTest, ATransactionInsideATransactionIsAnError) {
   connection().Begin();
   EXPECT_EQ(DbRaisedBy([&] { connection().Begin(); }),

@@ -11,6 +11,7 @@
 #include "store/db/sqlite_error.h"
 #include "store/db/sqlite_file.h"
 #include "store/db/sqlite_functions.h"
+#include "store/db/sqlite_idle_statements.h"
 #include "store/db/sqlite_query.h"
 #include "store/db/sqlite_statement.h"
 
@@ -96,12 +97,17 @@ class SqliteConnection final : public Connection {
   std::unique_ptr<Query> Prepare(std::string_view sql) override {
     const std::vector<Token> tokens = Tokenize(sql);
     RequireOneSelect(tokens);
-    return Prepared(RewriteForSqlite(tokens, *catalog_), {});
+    // Its values stand in its text: it is not asked for again.
+    const std::string rewritten = RewriteForSqlite(tokens, *catalog_);
+    auto statement = std::make_unique<SqliteStatement>(database(), rewritten);
+    return std::make_unique<SqliteQuery>(catalog_, LentStatement(statement.release()),
+                                         std::vector<Value>());
   }
 
   std::unique_ptr<Query> PrepareNative(std::string_view sql,
                                        std::span<const Value> parameters) override {
-    return Prepared(sql, {parameters.begin(), parameters.end()});
+    return std::make_unique<SqliteQuery>(catalog_, idle_->Lend(database(), sql),
+                                         std::vector<Value>(parameters.begin(), parameters.end()));
   }
 
   void Execute(std::string_view sql) override {
@@ -168,12 +174,8 @@ class SqliteConnection final : public Connection {
     if (!InTransaction()) RequireFileInPlace(database());
   }
 
-  std::unique_ptr<Query> Prepared(std::string_view sql, std::vector<Value> parameters) {
-    return std::make_unique<SqliteQuery>(catalog_, SqliteStatement(database(), sql),
-                                         std::move(parameters));
-  }
-
   std::shared_ptr<SqliteCatalog> catalog_;
+  std::shared_ptr<IdleStatements> idle_ = std::make_shared<IdleStatements>();
   KeptWrite insert_;
   bool insert_assigns_ = false;
   KeptWrite update_;

@@ -93,12 +93,13 @@ std::string OrEmpty(const char* text) {
 
 }  // namespace
 
-SqliteQuery::SqliteQuery(std::shared_ptr<SqliteCatalog> catalog, SqliteStatement statement,
+SqliteQuery::SqliteQuery(std::shared_ptr<SqliteCatalog> catalog, LentStatement statement,
                          std::vector<Value> parameters)
     : catalog_(std::move(catalog)),
       statement_(std::move(statement)),
       parameters_(std::move(parameters)) {
-  if (sqlite3_column_count(statement_.get()) == 0 || sqlite3_stmt_readonly(statement_.get()) == 0) {
+  if (sqlite3_column_count(statement_->get()) == 0 ||
+      sqlite3_stmt_readonly(statement_->get()) == 0) {
     throw MakeError(ErrorNumber::kDatabase,
                     "interrogazione rifiutata: l'istruzione non è una lettura");
   }
@@ -106,7 +107,7 @@ SqliteQuery::SqliteQuery(std::shared_ptr<SqliteCatalog> catalog, SqliteStatement
 
 const std::vector<ColumnInfo>& SqliteQuery::Columns() {
   if (columns_.empty()) {
-    const int count = sqlite3_column_count(statement_.get());
+    const int count = sqlite3_column_count(statement_->get());
     columns_.reserve(static_cast<std::size_t>(count));
     for (int column = 0; column < count; ++column) columns_.push_back(Describe(column));
   }
@@ -114,7 +115,7 @@ const std::vector<ColumnInfo>& SqliteQuery::Columns() {
 }
 
 ColumnInfo SqliteQuery::Describe(int column) {
-  sqlite3_stmt* statement = statement_.get();
+  sqlite3_stmt* statement = statement_->get();
   ColumnInfo info;
   info.name = OrEmpty(sqlite3_column_name(statement, column));
   const DeclaredType declared =
@@ -139,7 +140,7 @@ ColumnInfo SqliteQuery::Describe(int column) {
 
 void SqliteQuery::FindTypes() {
   types_.clear();
-  const int count = sqlite3_column_count(statement_.get());
+  const int count = sqlite3_column_count(statement_->get());
   // The engine prepares a statement anew where the table was altered since.
   if (!columns_.empty() && columns_.size() != static_cast<std::size_t>(count)) {
     throw MakeError(ErrorNumber::kDatabase,
@@ -147,22 +148,22 @@ void SqliteQuery::FindTypes() {
                     "l'operazione");
   }
   for (int column = 0; column < count; ++column) {
-    types_.push_back(ParseDeclaredType(sqlite3_column_decltype(statement_.get(), column)));
+    types_.push_back(ParseDeclaredType(sqlite3_column_decltype(statement_->get(), column)));
   }
 }
 
 std::vector<Row> SqliteQuery::FetchAll() {
-  const ResetLater reset(statement_);
+  const ResetLater reset(*statement_);
   for (std::size_t i = 0; i < parameters_.size(); ++i) {
-    statement_.Bind(static_cast<int>(i) + 1, parameters_[i]);
+    statement_->Bind(static_cast<int>(i) + 1, parameters_[i]);
   }
   std::vector<Row> rows;
-  while (statement_.Step()) {
+  while (statement_->Step()) {
     if (rows.empty()) FindTypes();
     Row row;
     row.reserve(types_.size());
     for (std::size_t i = 0; i < types_.size(); ++i) {
-      row.push_back(ReadValue(statement_.get(), static_cast<int>(i), types_[i]));
+      row.push_back(ReadValue(statement_->get(), static_cast<int>(i), types_[i]));
     }
     rows.push_back(std::move(row));
   }
