@@ -95,14 +95,12 @@ void SetWidthlstAgenda(AgendaList& lstAgendaAvv) {
 
 void AggiungiRigaAgenda(AgendaList& lstAgendaAvv, std::string_view ValueItem,
                         std::string_view FirstSubItem, bool bold) {
-  AgendaRow row{std::string(ValueItem), std::string(FirstSubItem), bold, std::nullopt};
-  if (!bold) row.color = kDarkRed;
-  lstAgendaAvv.rows.push_back(std::move(row));
+  lstAgendaAvv.rows.push_back(ValueItem, FirstSubItem, bold);
 }
 
 void lstAgendaAvv_ItemClick(AgendaList& lstAgendaAvv, std::size_t place) {
-  const AgendaRow& row = lstAgendaAvv.rows.at(place - 1);
-  lstAgendaAvv.toolTip = row.text + " - " + row.sub;
+  const AgendaRow row = lstAgendaAvv.rows.at(place - 1);
+  lstAgendaAvv.toolTip = std::string(row.text).append(" - ").append(row.sub);
 }
 
 }  // namespace ordex

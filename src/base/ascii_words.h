@@ -50,4 +50,14 @@ inline Word LowerAsciiWord(Word word) {
   return TurnLettersOfWord(word, 'A');
 }
 
+// Whether two texts of one size are equal when the case of their ASCII letters is ignored.
+inline bool EqualIgnoringAsciiCase(std::string_view a, std::string_view b) {
+  for (std::size_t at = 0; at + kWordSize < a.size(); at += kWordSize) {
+    if (LowerAsciiWord(LoadWord(a.data() + at)) != LowerAsciiWord(LoadWord(b.data() + at))) {
+      return false;
+    }
+  }
+  return LowerAsciiWord(LastWord(a)) == LowerAsciiWord(LastWord(b));
+}
+
 }  // namespace ordex

@@ -39,13 +39,7 @@ std::size_t KeyedTable::Hash::operator()(std::string_view key) const {
 bool KeyedTable::Equal::operator()(std::string_view a, std::string_view b) const {
   if (a.size() != b.size()) return false;
   // Mostly the letter case is the same too.
-  if (a == b) return true;
-  for (std::size_t at = 0; at + kWordSize < a.size(); at += kWordSize) {
-    if (LowerAsciiWord(LoadWord(a.data() + at)) != LowerAsciiWord(LoadWord(b.data() + at))) {
-      return false;
-    }
-  }
-  return LowerAsciiWord(LastWord(a)) == LowerAsciiWord(LastWord(b));
+  return a == b || EqualIgnoringAsciiCase(a, b);
 }
 
 KeyedTable::KeyedTable(const KeyedTable& other) {

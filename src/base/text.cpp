@@ -132,6 +132,36 @@ std::size_t CountBareLineEnds(std::string_view text) {
   return bare;
 }
 
+// Sixteen bytes at a time, which every processor compares at once.
+using Block [[gnu::vector_size(16)]] = char;
+constexpr std::size_t kBlockSize = sizeof(Block);
+
+Block LoadBlock(const char* bytes) {
+  Block block;
+  std::memcpy(&block, bytes, kBlockSize);
+  return block;
+}
+
+Block InEachByte(char byte) {
+  return Block{} + byte;
+}
+
+bool AnySet(Block block) {
+  std::array<Word, kBlockSize / kWordSize> words{};
+  std::memcpy(words.data(), &block, kBlockSize);
+  return (words[0] | words[1]) != 0;
+}
+
+// The first of `places` places from `begin` on where `wanted` stands; `places` where it does not.
+std::size_t FirstPlace(const char* begin, std::size_t places, std::string_view wanted) {
+  std::size_t at = 0;
+  while (at < places && (begin[at] != wanted.front() || begin[at + 1] != wanted[1] ||
+                         std::memcmp(begin + at, wanted.data(), wanted.size()) != 0)) {
+    ++at;
+  }
+  return at;
+}
+
 }  // namespace
 
 std::size_t CharCount(std::string_view text) {
@@ -167,12 +197,32 @@ std::string_view From(std::string_view text, std::size_t position) {
 }
 
 std::size_t Find(std::string_view text, std::string_view wanted, std::size_t start) {
-  const std::size_t offset = text.find(wanted, OffsetAfter(text, start - 1));
+  const std::size_t offset = OffsetOf(text, wanted, OffsetAfter(text, start - 1));
   return offset == std::string_view::npos ? 0 : CharCount(text.substr(0, offset)) + 1;
 }
 
+std::size_t OffsetOf(std::string_view text, std::string_view wanted, std::size_t from) {
+  if (wanted.size() < 2 || text.size() < wanted.size()) return text.find(wanted, from);
+  const std::size_t gap = wanted.size() - 1;
+  const std::size_t end = text.size() - gap;
+  const char* begin = text.data();
+  // Sixteen places at a time: where the first and the last letter fit is looked at more closely.
+  const Block first = InEachByte(wanted.front());
+  const Block last = InEachByte(wanted.back());
+  for (; from + kBlockSize <= end; from += kBlockSize) {
+    if (!AnySet((LoadBlock(begin + from) == first) & (LoadBlock(begin + from + gap) == last))) {
+      continue;
+    }
+    const std::size_t at = FirstPlace(begin + from, kBlockSize, wanted);
+    if (at < kBlockSize) return from + at;
+  }
+  if (from >= end) return std::string_view::npos;
+  const std::size_t at = FirstPlace(begin + from, end - from, wanted);
+  return at < end - from ? from + at : std::string_view::npos;
+}
+
 bool Contains(std::string_view text, std::string_view wanted) {
-  return text.find(wanted) != std::string_view::npos;
+  return OffsetOf(text, wanted) != std::string_view::npos;
 }
 
 std::string_view TrimLeft(std::string_view text) {
@@ -186,13 +236,11 @@ std::string_view Trim(std::string_view text) {
   return text;
 }
 
-std::vector<std::string_view> Split(std::string_view text, std::string_view separator,
-                                    std::size_t limit) {
-  std::vector<std::string_view> parts;
-  parts.reserve(4);  // enough for most lines
+Parts Split(std::string_view text, std::string_view separator, std::size_t limit) {
+  Parts parts;
   if (!separator.empty()) {
     while (limit == kNoLimit || parts.size() + 1 < limit) {
-      const std::size_t at = text.find(separator);
+      const std::size_t at = OffsetOf(text, separator);
       if (at == std::string_view::npos) break;
       parts.push_back(text.substr(0, at));
       text.remove_prefix(at + separator.size());
@@ -204,7 +252,7 @@ std::vector<std::string_view> Split(std::string_view text, std::string_view sepa
 
 std::optional<Halves> SplitOnce(std::string_view text, std::string_view separator) {
   if (separator.empty()) return std::nullopt;
-  const std::size_t at = text.find(separator);
+  const std::size_t at = OffsetOf(text, separator);
   if (at == std::string_view::npos) return std::nullopt;
   return Halves{text.substr(0, at), text.substr(at + separator.size())};
 }
@@ -239,7 +287,8 @@ std::string Upper(std::string_view text) {
 }
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {
-  return Lower(a) == Lower(b);
+  if (AsciiRun(a) < a.size() || AsciiRun(b) < b.size()) return Lower(a) == Lower(b);
+  return a.size() == b.size() && EqualIgnoringAsciiCase(a, b);
 }
 
 bool IsValidUtf8(std::string_view bytes) {

@@ -27,9 +27,9 @@ CurrentCase FindCase(const Database& database, const AgendaRow& row) {
   szSql.Append(" where Pratica.NumeroRegGenerale = ").AppendUndoubled(row.text);
   DbRecord record;
   record.Open(database, szSql, kForReadingToo);
-  if (record.recordset().Eof()) return {1, 1, 2, "SUPERVISORE", row.sub};
+  if (record.recordset().Eof()) return {1, 1, 2, "SUPERVISORE", std::string(row.sub)};
   return {AsInt32(record.Get("ID_Pra")), AsInt32(record.Get("ID_Cliente")),
-          AsInt32(record.Get("ID_Contab")), ToText(record.Get("NomeUtente")), row.sub};
+          AsInt32(record.Get("ID_Contab")), ToText(record.Get("NomeUtente")), std::string(row.sub)};
 }
 
 // A text between double quotes; those inside are doubled, so that an entry that holds some imports.
@@ -74,7 +74,8 @@ void WriteEntry(const Database& database, const CurrentCase& current, const Agen
 void WriteAgenda(const Database& database, const AgendaList& lstAgendaAvv) {
   InTransaction(database, [&] {
     CurrentCase current;
-    for (const AgendaRow& row : lstAgendaAvv.rows) {
+    for (std::size_t i = 0; i < lstAgendaAvv.rows.size(); ++i) {
+      const AgendaRow row = lstAgendaAvv.rows[i];
       if (row.bold) {
         current = FindCase(database, row);
       } else {

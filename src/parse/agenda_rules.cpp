@@ -68,7 +68,9 @@ class AgendaRules : public PageRules {
       reader_.Taken(line, "impegno");
       const auto parts = Split(line.text, column_.text(), 3);
       const std::string_view description = Part(parts, 2);
-      sink_.AggiungiRigaAgenda(Indented(parts[1]), Indented(Trim(description)), false);
+      Indent(parts[1], text_);
+      Indent(Trim(description), sub_);
+      sink_.AggiungiRigaAgenda(text_, sub_, false);
       line = reader_.Next();
     }
     if (line.text.empty()) {
@@ -78,7 +80,9 @@ class AgendaRules : public PageRules {
     }
   }
 
-  static std::string Indented(std::string_view text) { return std::string(kIndent).append(text); }
+  static void Indent(std::string_view text, std::string& indented) {
+    indented.assign(kIndent).append(text);
+  }
 
   Page& page_;
   ImportSink& sink_;
@@ -89,6 +93,9 @@ class AgendaRules : public PageRules {
   Landmark caseEnd_;
   Landmark entries_;
   Delimiter column_;
+  // The entry in work; members, so that the next one finds their room.
+  std::string text_;
+  std::string sub_;
 };
 
 }  // namespace

@@ -20,7 +20,9 @@ class HistoryRules : public PageRules {
                  Delimiter(context.mappings.cDelimitatori, "DELSF9"),
                  Delimiter(context.mappings.cDelimitatori, "DELSF10")},
         column_(context.mappings.cDelimitatori, "DELSF2"),
-        noEvent_(context.mappings.cDelimitatori, "DELSF3", context.reader.text()) {}
+        noEvent_(context.mappings.cDelimitatori, "DELSF3", context.reader.text()),
+        pageReference_(std::to_string(paging_.iPaginaStorico) + "/" +
+                       std::to_string(paging_.iTotPagineStorico)) {}
 
   AfterLine Apply(PageLine szRiga) override {
     // A page that was taken already in this run yields no rows.
@@ -47,16 +49,18 @@ class HistoryRules : public PageRules {
 
   void TakeEvent(const PageLine& szRiga) {
     reader_.Taken(szRiga, "evento");
-    const std::string halved = ReplaceAll(szRiga.text, "  ", " ");
-    const auto parts = Split(halved, column_.text(), 3);
+    const auto parts = Split(Halved(szRiga.text), column_.text(), 3);
     // The last part is asked for first, so that an error names how many are needed.
     const std::string_view description = Part(parts, 2);
-    sink_.WriteListView(Trim(parts[0]), Trim(parts[1]), Trim(description), PageReference(), "");
+    sink_.WriteListView(Trim(parts[0]), Trim(parts[1]), Trim(description), pageReference_, "");
     paging_.bStoricoVuoto = false;
   }
 
-  std::string PageReference() const {
-    return std::to_string(paging_.iPaginaStorico) + "/" + std::to_string(paging_.iTotPagineStorico);
+  // The line with one blank for every two; valid until the next one.
+  std::string_view Halved(std::string_view line) {
+    if (!Contains(line, "  ")) return line;
+    halved_ = ReplaceAll(line, "  ", " ");
+    return halved_;
   }
 
   HistoryPaging& paging_;
@@ -65,6 +69,8 @@ class HistoryRules : public PageRules {
   std::array<Delimiter, 4> headers_;
   Delimiter column_;
   Landmark noEvent_;
+  std::string pageReference_;
+  std::string halved_;
   bool bAttesaIntestazione_ = true;
 };
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/error.h"
+#include "base/text.h"
 #include "parse/mapping_files.h"
 
 namespace ordex {
@@ -39,12 +40,12 @@ bool Landmark::In(std::string_view line) {
   const auto begin = static_cast<std::size_t>(line.data() - page_.data());
   if (begin < searchedFrom_ || begin > next_) {
     searchedFrom_ = begin;
-    next_ = page_.find(wanted, begin);
+    next_ = OffsetOf(page_, wanted, begin);
   }
   return next_ != std::string_view::npos && next_ + wanted.size() <= begin + line.size();
 }
 
-std::string_view Part(const std::vector<std::string_view>& parts, std::size_t index) {
+std::string_view Part(const Parts& parts, std::size_t index) {
   if (index >= parts.size()) {
     throw MakeError(ErrorNumber::kSubscript, "la riga ha " + std::to_string(parts.size()) +
                                                  (parts.size() == 1 ? " parte" : " parti") +

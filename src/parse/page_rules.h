@@ -4,9 +4,9 @@
 #include <memory>
 #include <optional>
 #include <string_view>
-#include <vector>
 
 #include "base/keyed_table.h"
+#include "base/parts.h"
 #include "parse/import.h"
 #include "parse/page_reader.h"
 
@@ -77,7 +77,7 @@ class Landmark {
 };
 
 // The part of a cut line at `index`, counted from 0. Error: subscript, where the line has fewer.
-std::string_view Part(const std::vector<std::string_view>& parts, std::size_t index);
+std::string_view Part(const Parts& parts, std::size_t index);
 
 // The database field that a label fills. Error: missing key, naming "MapCampi.txt".
 const std::string& FieldOf(const KeyedTable& cOrdexMap, std::string_view label);

@@ -145,18 +145,15 @@ class ProfileRules : public PageRules {
     }
   }
 
-  void KeepParty(std::string_view partyKey, std::string_view counselKey,
-                 const std::vector<std::string_view>& parts) {
+  void KeepParty(std::string_view partyKey, std::string_view counselKey, const Parts& parts) {
     page_.cDatiFasc.Add(std::string(Trim(parts[0])), partyKey);
     page_.cDatiFasc.Add(std::string(Counsel(parts)), counselKey);
     OfferParty(parts);
   }
 
-  void OfferParty(const std::vector<std::string_view>& parts) {
-    sink_.LoadcmbParti(Trim(parts[0]), Counsel(parts));
-  }
+  void OfferParty(const Parts& parts) { sink_.LoadcmbParti(Trim(parts[0]), Counsel(parts)); }
 
-  static std::string_view Counsel(const std::vector<std::string_view>& parts) {
+  static std::string_view Counsel(const Parts& parts) {
     return parts.size() > 1 ? Trim(parts[1]) : std::string_view{};
   }
 

@@ -4,7 +4,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,23 +39,13 @@ struct ReviewList {
   bool hasTaggedRows = false;
 };
 
-// The fore colour of the entries under a case in the agenda list, a dark red (0xBBGGRR).
-inline constexpr std::int32_t kDarkRed = 0xC0;
-
-struct AgendaRow {
-  std::string text;
-  std::string sub;
-  bool bold = false;
-  std::optional<std::int32_t> color;  // the default colour where absent
-};
-
 // lstAgendaAvv.
 struct AgendaList {
   bool visible = false;
   int top = 0;
   std::array<Column, 2> columns = {Column{"Registro Generale\\Data", 2400},
                                    Column{"Descrizione\\Descrizione", 0}};
-  std::vector<AgendaRow> rows;
+  AgendaRows rows;
   std::string toolTip;
 };
 

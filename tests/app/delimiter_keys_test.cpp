@@ -57,8 +57,8 @@ std::vector<std::string> Reading(const EditedMapping& folder, const std::string&
       for (const std::string_view sub : row.sub) text.append(" | ").append(sub);
     }
     for (const std::size_t place : line.agendaRows) {
-      const AgendaRow& row = trial->window.lstAgendaAvv.rows.at(place);
-      text.append(" | " + row.text + " | " + row.sub);
+      const AgendaRow row = trial->window.lstAgendaAvv.rows.at(place);
+      text.append(" | ").append(row.text).append(" | ").append(row.sub);
     }
     reading.push_back(std::move(text));
   }

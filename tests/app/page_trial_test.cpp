@@ -40,8 +40,8 @@ Told ToldOf(const PageTrial& trial) {
       text.append("}");
     }
     for (const std::size_t place : line.agendaRows) {
-      const AgendaRow& row = trial.window.lstAgendaAvv.rows.at(place);
-      text.append(row.bold ? " *" : " ").append("{" + row.text + "|" + row.sub + "}");
+      const AgendaRow row = trial.window.lstAgendaAvv.rows.at(place);
+      text.append(row.bold ? " *{" : " {").append(row.text).append("|").append(row.sub).append("}");
     }
     told.push_back(std::move(text));
   }

@@ -19,8 +19,8 @@ std::string Joined(const std::vector<std::string>& parts) {
   return text;
 }
 
-std::string Joined(const std::vector<std::string_view>& parts, std::string_view separator) {
-  std::string text(parts.front());
+std::string Joined(const Parts& parts, std::string_view separator) {
+  std::string text(parts[0]);
   for (std::size_t i = 1; i < parts.size(); ++i) text.append(separator).append(parts[i]);
   return text;
 }
@@ -155,6 +155,33 @@ TEST(CountingProperties, FindGivesTheFirstPlaceAtOrBehindTheStart) {
 
 // --- searching and cutting --------------------------------------------------------------------
 
+TEST(OffsetOf, FindsWhatTheLibraryFindsAtEveryPlaceOfEveryLength) {
+  // Blocks are sixteen bytes long: what is searched for begins, ends and stands across their edges.
+  for (const std::string_view wanted : {"", "x", "xy", "xay", "xbbbbbbbbbbbbbbbbby"}) {
+    for (std::size_t length = 0; length <= 70; ++length) {
+      EXPECT_EQ(OffsetOf(std::string(length, '.'), wanted), wanted.empty() ? 0 : std::string::npos);
+      for (std::size_t at = 0; at + wanted.size() <= length; ++at) {
+        std::string text(length, '.');
+        text.replace(at, wanted.size(), wanted);
+        ASSERT_EQ(OffsetOf(text, wanted), text.find(wanted)) << text;
+        ASSERT_EQ(OffsetOf(text, wanted, at), text.find(wanted, at)) << text;
+        ASSERT_EQ(OffsetOf(text, wanted, at + 1), text.find(wanted, at + 1)) << text;
+      }
+    }
+  }
+}
+
+TEST(OffsetOf, IsNotDeceivedByTextsThatNearlyFit) {
+  std::mt19937 random(7);  // NOLINT: the same texts in every run
+  const std::vector<std::string> letters = {"a", "b", " "};
+  for (int round = 0; round < 20000; ++round) {
+    const std::string text = Joined(RandomPieces(random, letters, 60));
+    const std::string wanted = Joined(RandomPieces(random, letters, 5));
+    const std::size_t from = Below(random, 70);
+    ASSERT_EQ(OffsetOf(text, wanted, from), text.find(wanted, from)) << text << "|" << wanted;
+  }
+}
+
 TEST(Contains, SearchesExactlyAndMindsLetterCase) {
   EXPECT_TRUE(Contains("Numero di ruolo: 12", "ruolo:"));
   EXPECT_FALSE(Contains("Numero di ruolo: 12", "Ruolo:"));
@@ -197,6 +224,18 @@ TEST(TrimLeft, RemovesBlanksAtTheStartAlone) {
   EXPECT_EQ(TrimLeft("  a  "), "a  ");
   EXPECT_EQ(TrimLeft("   "), "");
   EXPECT_EQ(TrimLeft("\t a"), "\t a");
+}
+
+TEST(Split, GivesAsManyPartsAsThereAre) {
+  for (std::size_t count = 1; count <= 12; ++count) {
+    std::string text = "1";
+    std::vector<std::string> expected = {"1"};
+    for (std::size_t part = 2; part <= count; ++part) {
+      expected.push_back(std::to_string(part));
+      text.append(";").append(expected.back());
+    }
+    EXPECT_THAT(Split(text, ";"), testing::ElementsAreArray(expected));
+  }
 }
 
 TEST(Split, CutsAtEveryOccurrence) {

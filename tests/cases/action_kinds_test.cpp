@@ -90,8 +90,8 @@ TEST(ActionOnAHistory, IsThatOfThePageAtOpeningAfterARefusedPage) {
 
 struct AgendaPage : KindFixture {
   AgendaPage() : KindFixture(kPageAgenda) {
-    agenda.rows.push_back({"1842/2025", "ROSSI / BIANCHI", true, std::nullopt});
-    agenda.rows.push_back({"    12/03/2026", "    Note", false, kDarkRed});
+    agenda.rows.push_back("1842/2025", "ROSSI / BIANCHI", true);
+    agenda.rows.push_back("    12/03/2026", "    Note", false);
   }
   Texts Entries() { return office.Rows("SELECT Scadenza FROM SCADENZE ORDER BY ID_Scadenza"); }
 };
@@ -134,14 +134,14 @@ TEST(ActionOnAnAgenda, TakesNoNoticeOfTheCaseHeader) {
 
 TEST(ActionOnAnAgenda, WithoutEntriesStillTellsTheUser) {
   AgendaPage action;
-  action.agenda.rows.clear();
+  action.agenda.rows = {};
   EXPECT_EQ(action.Press(), ActionOutcome::kGoOn);
   EXPECT_EQ(action.boxes.shown, (Boxes{kAgendaUpdated}));
 }
 
 TEST(ActionOnAnAgenda, WithADateThatIsNoneRaisesAndShowsNoBox) {
   AgendaPage action;
-  action.agenda.rows.push_back({"    lunedì", "    Repliche", false, kDarkRed});
+  action.agenda.rows.push_back("    lunedì", "    Repliche", false);
   EXPECT_EQ(ErrorNumberOf([&] { action.Press(); }), 13);
   EXPECT_TRUE(action.boxes.shown.empty());
   EXPECT_EQ(action.Entries(), (Texts{"Note"}));

@@ -191,8 +191,8 @@ class Comparison {
     }
     for (std::size_t i = 0; i < list.rows.size(); ++i) {
       const auto row = static_cast<long>(i);
-      Same("agenda row", shown->GetItemText(row, 0).utf8_string(), list.rows[i].text);
-      Same("agenda row", shown->GetItemText(row, 1).utf8_string(), list.rows[i].sub);
+      Same("agenda row", shown->GetItemText(row, 0).utf8_string(), std::string(list.rows[i].text));
+      Same("agenda row", shown->GetItemText(row, 1).utf8_string(), std::string(list.rows[i].sub));
     }
     Same("tool tip of lstAgendaAvv", shown->GetToolTipText().utf8_string(), list.toolTip);
   }

@@ -5,6 +5,12 @@
 #include <wx/hyperlink.h>
 #include <wx/stattext.h>
 
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
 #include "database.h"
 #include "desk_test.h"
 
@@ -14,6 +20,39 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Not;
+
+// What the desktop calls for a mail link: a script in the home that the display has set up, which
+// writes down what it was called with.
+class MailProgram {
+ public:
+  MailProgram() {
+    const std::filesystem::path script = home_ / "posta.sh";
+    Write(script, "#!/bin/sh\nprintf '%s|' \"$@\" >'" + (home_ / "tmp").string() + "'\nmv '" +
+                      (home_ / "tmp").string() + "' '" + received_.string() + "'\n");
+    std::filesystem::permissions(script, std::filesystem::perms::owner_all);
+    Write(home_ / ".local/share/applications/posta.desktop",
+          "[Desktop Entry]\nType=Application\nName=Posta\nExec=" + script.string() +
+              " %u\nMimeType=x-scheme-handler/mailto;\n");
+    Write(home_ / ".config/mimeapps.list",
+          "[Default Applications]\nx-scheme-handler/mailto=posta.desktop\n");
+  }
+
+  // Each argument that it was called with, and a bar.
+  std::string Arguments() const {
+    WaitFor([this] { return std::filesystem::exists(received_); });
+    std::ifstream in(received_);
+    return {std::istreambuf_iterator<char>(in), {}};
+  }
+
+ private:
+  static void Write(const std::filesystem::path& file, const std::string& text) {
+    std::filesystem::create_directories(file.parent_path());
+    std::ofstream(file) << text;
+  }
+
+  std::filesystem::path home_ = std::getenv("HOME");
+  std::filesystem::path received_ = home_ / "ricevuto";
+};
 
 class PersonCardTest : public DeskTest {
  protected:
@@ -46,6 +85,20 @@ TEST_F(PersonCardTest, AClickOnTheClientShowsTheCardOfACompany) {
   EXPECT_THAT(OnMain([this] { return TextsOf(*card_); }),
               Not(::testing::Contains(::testing::HasSubstr("Collegare"))));
   EXPECT_THAT(OnMain([this] { return ButtonsOf(*card_); }), ElementsAre("Sì", "No"));
+}
+
+TEST_F(PersonCardTest, AClickOnTheAddressCallsTheMailProgramWithItAlone) {
+  const MailProgram mail;
+  // What could bring a second recipient or a text along is part of the address.
+  sessions::RunSql(office_.database(),
+                   "UPDATE Anagrafica SET Email = 'a@vallebruna.example?cc=b@altrove.example' "
+                   "WHERE Cognome LIKE 'EDILIZIA VALLEBRUNA%'");
+  OpenCardOf("EDILIZIA VALLEBRUNA S.R.L.");
+  Click(OnMain([this] {
+    return Seen<wxHyperlinkCtrl>(*card_, "a@vallebruna.example?cc=b@altrove.example");
+  }));
+  EXPECT_EQ(mail.Arguments(), "mailto:a@vallebruna.example%3Fcc%3Db@altrove.example|");
+  EXPECT_EQ(Ended(), std::nullopt);
 }
 
 TEST_F(PersonCardTest, EveryTextFitsIntoTheCard) {

@@ -11,11 +11,11 @@ namespace ordex::testing {
 
 struct AgendaListFixture {
   void Case(const std::string& number, const std::string& parties = "ROSSI / BIANCHI") {
-    list.rows.push_back({number, parties, true, std::nullopt});
+    list.rows.push_back(number, parties, true);
   }
   // Indented, as the page's entries are.
   void Entry(const std::string& date, const std::string& description) {
-    list.rows.push_back({"    " + date, "    " + description, false, kDarkRed});
+    list.rows.push_back("    " + date, "    " + description, false);
   }
   void Write() { WriteAgenda(office.database(), list); }
   // The number of the error that writing ends with; 0 where it ends with none.

@@ -54,7 +54,7 @@ std::string Became(const PageTrial& trial, const LineReport& line) {
         row.sub[2].empty() ? row.sub[1] : std::string(row.sub[0]).append(" ").append(row.sub[1]));
   }
   for (const std::size_t place : line.agendaRows) {
-    const AgendaRow& row = trial.window.lstAgendaAvv.rows[place];
+    const AgendaRow row = trial.window.lstAgendaAvv.rows[place];
     append(Trim(row.text), Trim(row.sub));
   }
   return text;

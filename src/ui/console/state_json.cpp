@@ -68,7 +68,7 @@ Json AgendaListJson(const AgendaList& list) {
     columns.push_back({{"header", column.header}, {"width", column.width}});
   }
   Json rows = Json::array();
-  for (const AgendaRow& row : list.rows) rows.push_back(AgendaRowJson(row));
+  for (std::size_t i = 0; i < list.rows.size(); ++i) rows.push_back(AgendaRowJson(list.rows[i]));
   return {{"visible", list.visible},
           {"columns", std::move(columns)},
           {"rows", std::move(rows)},

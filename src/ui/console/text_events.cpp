@@ -87,8 +87,9 @@ Table ReviewTable(const ReviewList& list) {
 Table AgendaTable(const AgendaList& list) {
   Table table;
   table.headers = {"#", list.columns[0].header, list.columns[1].header};
-  for (const AgendaRow& row : list.rows) {
-    table.rows.push_back({std::to_string(table.rows.size() + 1), row.text, row.sub});
+  for (std::size_t i = 0; i < list.rows.size(); ++i) {
+    const AgendaRow row = list.rows[i];
+    table.rows.push_back({std::to_string(i + 1), std::string(row.text), std::string(row.sub)});
   }
   return table;
 }

@@ -167,12 +167,12 @@ void AgendaListCtrl::Draw() {
 }
 
 wxString AgendaListCtrl::OnGetItemText(long row, long column) const {
-  const AgendaRow& item = list_.rows[static_cast<std::size_t>(row)];
+  const AgendaRow item = list_.rows[static_cast<std::size_t>(row)];
   return OneLine(column == 0 ? item.text : item.sub);
 }
 
 wxListItemAttr* AgendaListCtrl::OnGetItemAttr(long row) const {
-  const AgendaRow& item = list_.rows[static_cast<std::size_t>(row)];
+  const AgendaRow item = list_.rows[static_cast<std::size_t>(row)];
   if (item.bold) return &caseRow_;
   return item.color ? &entryRow_ : nullptr;
 }
