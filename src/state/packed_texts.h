@@ -80,11 +80,14 @@ class PackedTexts {
     return static_cast<std::uint32_t>(text.size());
   }
 
-  struct Block {
-    explicit Block(std::size_t size)
-        : bytes(std::make_unique_for_overwrite<char[]>(size)), free(bytes.get()), left(size) {}
+  // Of any size, and not filled with zeroes first.
+  using Bytes = std::unique_ptr<char[]>;  // NOLINT(modernize-avoid-c-arrays)
 
-    std::unique_ptr<char[]> bytes;
+  struct Block {
+    // NOLINTNEXTLINE(modernize-avoid-c-arrays)
+    explicit Block(std::size_t size) : bytes(new char[size]), free(bytes.get()), left(size) {}
+
+    Bytes bytes;
     char* free;        // the first byte that is not taken
     std::size_t left;  // so many are not
   };
