@@ -8,6 +8,7 @@
 #include <set>
 #include <sstream>
 #include <utility>
+#include <vector>
 
 #include "desk_test.h"
 #include "list_hands.h"
@@ -30,6 +31,17 @@ class ListsTest : public DeskTest {
     }));
     Settle();
     return Find<wxListCtrl>("lstImport");
+  }
+  // By so many pixels, with the whole window.
+  static void Widen(wxListCtrl& list, int pixels) {
+    OnMain([&list, pixels] {
+      wxWindow* window = wxGetTopLevelParent(&list);
+      window->SetSize(window->GetSize() + wxSize(pixels, 0));
+    });
+  }
+  // Of all columns but the third, which fits itself to the list.
+  static std::vector<int> OtherWidths(const wxListCtrl& list) {
+    return {list.GetColumnWidth(0), list.GetColumnWidth(1), list.GetColumnWidth(3)};
   }
   // The first cells in the order shown.
   std::string Order() {
@@ -115,6 +127,26 @@ TEST_F(ListsTest, EscapeInTheListCloses) {
   ClickRow(OpenWithDetails("profilo-contratto.txt"), 1);
   Press(WXK_ESCAPE);
   EXPECT_TRUE(EndsAs(EndReason::kClosed));
+}
+
+TEST_F(ListsTest, AColumnTakesWhatTheWindowGrowsByAndGivesItBack) {
+  wxListCtrl* list = OpenWithDetails("storico-unica.txt");
+  const int designed = OnMain([=] { return list->GetColumnWidth(2); });
+  const std::vector<int> others = OnMain([=] { return OtherWidths(*list); });
+  Widen(*list, 200);
+  EXPECT_TRUE(WaitFor([=] { return list->GetColumnWidth(2) == designed + 200; }));
+  Widen(*list, -300);
+  EXPECT_TRUE(WaitFor([=] { return list->GetColumnWidth(2) == designed - 100; }));
+  EXPECT_EQ(OnMain([=] { return OtherWidths(*list); }), others);
+}
+
+TEST_F(ListsTest, AColumnThatTheUserHasSetStaysAsItIs) {
+  wxListCtrl* list = OpenWithDetails("storico-unica.txt");
+  OnMain([=] { list->SetColumnWidth(2, 300); });
+  Widen(*list, 150);
+  EXPECT_TRUE(WaitFor([=] { return list->GetSize().GetWidth() > 900; }));
+  Settle();
+  EXPECT_EQ(OnMain([=] { return list->GetColumnWidth(2); }), 300);
 }
 
 TEST_F(ListsTest, AHistoryOfAHundredThousandEventsOpensAndScrollsToItsEnd) {

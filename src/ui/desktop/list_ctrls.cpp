@@ -44,6 +44,10 @@ VirtualList::VirtualList(wxWindow* parent, const wxString& name, const ActRunner
     const auto place = static_cast<std::size_t>(event.GetIndex()) + 1;
     run([place](MainWindow& window) { window.ClickRow(place); });
   });
+  Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+    event.Skip();
+    FitColumn();
+  });
   Bind(wxEVT_CHAR, [this](wxKeyEvent& event) {
     if (event.GetKeyCode() == kCtrlC) {
       CopySelection();
@@ -68,7 +72,7 @@ void VirtualList::ShowRows(std::size_t count) {
   Refresh();
 }
 
-void VirtualList::ShowColumn(int place, const Column& column, bool grows) {
+void VirtualList::ShowColumn(int place, const Column& column, Width kind) {
   wxListItem shown;
   shown.SetMask(wxLIST_MASK_TEXT);
   GetColumn(place, shown);
@@ -77,12 +81,33 @@ void VirtualList::ShowColumn(int place, const Column& column, bool grows) {
     shown.SetText(Wx(column.header));
     SetColumn(place, shown);
   }
-  int width = Pixels(*this, column.width);
-  if (grows) width += std::max(0, GetSize().GetWidth() - Pixels(*this, kListWidth));
+  const int width = Pixels(*this, column.width);
+  if (kind == Width::kFixed) {
+    DrawWidth(place, width);
+  } else {
+    fittingColumn_ = place;
+    designedWidth_ = width;
+    DrawWidth(place, FittingWidth());
+  }
+}
+
+void VirtualList::DrawWidth(int place, int width) {
   int& drawn = drawnWidths_.try_emplace(place, -1).first->second;
   if (drawn == width) return;
   drawn = width;
   SetColumnWidth(place, width);
+}
+
+// Never so narrow that nothing could be read: then the list scrolls sideways.
+int VirtualList::FittingWidth() const {
+  const int more = GetSize().GetWidth() - Pixels(*this, kListWidth);
+  return std::max(designedWidth_ + more, designedWidth_ / 2);
+}
+
+void VirtualList::FitColumn() {
+  const auto drawn = drawnWidths_.find(fittingColumn_);
+  if (drawn == drawnWidths_.end() || GetColumnWidth(fittingColumn_) != drawn->second) return;
+  DrawWidth(fittingColumn_, FittingWidth());
 }
 
 wxString VirtualList::SelectedText() const {
@@ -121,7 +146,7 @@ void ReviewListCtrl::Draw() {
   constexpr int kValueColumn = 2;
   for (int place = 0; place < static_cast<int>(list_.columns.size()); ++place) {
     const Column& column = list_.columns[static_cast<std::size_t>(place)];
-    ShowColumn(place, column, place == kValueColumn);
+    ShowColumn(place, column, place == kValueColumn ? Width::kFits : Width::kFixed);
     DrawIcon(place, column.icon);
   }
   const std::pair sorted(list_.sortKey, list_.sortOrder);
@@ -158,7 +183,8 @@ AgendaListCtrl::AgendaListCtrl(wxWindow* parent, const AgendaList& list, const A
 
 void AgendaListCtrl::Draw() {
   for (int place = 0; place < static_cast<int>(list_.columns.size()); ++place) {
-    ShowColumn(place, list_.columns[static_cast<std::size_t>(place)], place == 1);
+    ShowColumn(place, list_.columns[static_cast<std::size_t>(place)],
+               place == 1 ? Width::kFits : Width::kFixed);
   }
   caseRow_.SetFont(GetFont().Bold());
   entryRow_.SetTextColour(EntryColour(kDarkRed));

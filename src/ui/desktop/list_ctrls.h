@@ -24,18 +24,24 @@ class VirtualList : public wxListCtrl {
  protected:
   // Takes the number of rows over and paints those in view again.
   void ShowRows(std::size_t count);
-  // Sets a column's header and width, in twips at the design width; where the list is wider than
-  // designed, `grows` takes the rest. A width that the user has changed stays until the program's
-  // own changes.
-  void ShowColumn(int place, const Column& column, bool grows);
+  // Sets a column's header and width, in twips at the design width; where the list is wider or
+  // narrower than designed, the column that fits takes or gives the difference. A width that the
+  // user has changed stays until the program's own changes.
+  enum class Width { kFixed, kFits };
+  void ShowColumn(int place, const Column& column, Width kind);
   // The toolkit remembers places: once other rows stand there, a click on one must count as new.
   void Deselect();
 
  private:
   int OnGetItemImage(long) const override { return -1; }
   void CopySelection();
+  void DrawWidth(int place, int width);
+  int FittingWidth() const;
+  void FitColumn();
 
   std::map<int, int> drawnWidths_;  // by column, in pixels
+  int fittingColumn_ = -1;
+  int designedWidth_ = 0;  // of that column, in pixels
 };
 
 // lstImport.
