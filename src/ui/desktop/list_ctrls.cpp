@@ -65,6 +65,7 @@ void VirtualList::Deselect() {
 }
 
 void VirtualList::ShowRows(std::size_t count) {
+  FitColumn();
   if (static_cast<std::size_t>(GetItemCount()) != count) {
     Deselect();
     SetItemCount(static_cast<long>(count));
@@ -98,10 +99,18 @@ void VirtualList::DrawWidth(int place, int width) {
   SetColumnWidth(place, width);
 }
 
-// Never so narrow that nothing could be read: then the list scrolls sideways.
+// As much wider or narrower than designed as the list is, and within it: beside a vertical scroll
+// bar and the list's border there may be a pixel or two less than designed. Never so narrow that
+// nothing could be read: then the list scrolls sideways.
 int VirtualList::FittingWidth() const {
-  const int more = GetSize().GetWidth() - Pixels(*this, kListWidth);
-  return std::max(designedWidth_ + more, designedWidth_ / 2);
+  const int width = GetSize().GetWidth();
+  int room =
+      width - GetWindowBorderSize().GetWidth() - wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, this);
+  for (const auto& [place, drawn] : drawnWidths_) {
+    if (place != fittingColumn_) room -= drawn;
+  }
+  const int asDesigned = designedWidth_ + width - Pixels(*this, kListWidth);
+  return std::max(std::min(asDesigned, room), designedWidth_ / 2);
 }
 
 void VirtualList::FitColumn() {
