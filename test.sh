@@ -38,7 +38,6 @@ all() {
   quick
   stage "lint" scripts/lint.sh
   stage "benchmarks, once each" bench/run.sh --once
-  stage "start of the window, once" bench/startup.sh 1
   stage "sanitizers and coverage" scripts/instrumented.sh
   stage "fuzz targets" fuzz/run.sh "$FUZZ_SECONDS"
   stage "Windows programs" packaging/windows/build.sh

@@ -205,6 +205,7 @@ std::size_t OffsetOf(std::string_view text, std::string_view wanted, std::size_t
   if (wanted.size() < 2 || text.size() < wanted.size()) return text.find(wanted, from);
   const std::size_t gap = wanted.size() - 1;
   const std::size_t end = text.size() - gap;
+  if (from >= end) return std::string_view::npos;
   const char* begin = text.data();
   // Sixteen places at a time: where the first and the last letter fit is looked at more closely.
   const Block first = InEachByte(wanted.front());
@@ -216,7 +217,6 @@ std::size_t OffsetOf(std::string_view text, std::string_view wanted, std::size_t
     const std::size_t at = FirstPlace(begin + from, kBlockSize, wanted);
     if (at < kBlockSize) return from + at;
   }
-  if (from >= end) return std::string_view::npos;
   const std::size_t at = FirstPlace(begin + from, end - from, wanted);
   return at < end - from ? from + at : std::string_view::npos;
 }

@@ -171,6 +171,14 @@ TEST(OffsetOf, FindsWhatTheLibraryFindsAtEveryPlaceOfEveryLength) {
   }
 }
 
+TEST(OffsetOf, FindsNothingBehindTheEnd) {
+  const std::string text(40, 'x');
+  EXPECT_EQ(OffsetOf(text, "xx", 39), std::string::npos);
+  EXPECT_EQ(OffsetOf(text, "xx", 40), std::string::npos);
+  EXPECT_EQ(OffsetOf(text, "xx", 41), std::string::npos);
+  EXPECT_EQ(OffsetOf(text, "xx", std::string::npos), std::string::npos);
+}
+
 TEST(OffsetOf, IsNotDeceivedByTextsThatNearlyFit) {
   std::mt19937 random(7);  // NOLINT: the same texts in every run
   const std::vector<std::string> letters = {"a", "b", " "};

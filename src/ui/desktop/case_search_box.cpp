@@ -22,12 +22,8 @@ CaseSearchBox::CaseSearchBox(wxWindow* parent, const CaseHeader& header, ActRunn
                  wxDefaultValidator, "ctlTestata1"),
       header_(header),
       run_(std::move(run)),
-      pause_(this),
-      popup_(new wxPopupWindow(this, wxBORDER_SIMPLE)),
-      hits_(new wxListBox(popup_, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr,
-                          wxLB_SINGLE | wxBORDER_NONE)) {
+      pause_(this) {
   SetHint("numero, cognome, oggetto");
-  hits_->SetName("Pratiche trovate");
   Bind(wxEVT_TEXT, [this](wxCommandEvent&) { pause_.StartOnce(kTypingPause); });
   Bind(wxEVT_TIMER, [this](wxTimerEvent&) { Search(); });
   Bind(wxEVT_KEY_DOWN, &CaseSearchBox::OnKey, this);
@@ -35,6 +31,13 @@ CaseSearchBox::CaseSearchBox(wxWindow* parent, const CaseHeader& header, ActRunn
     HideDropDown();
     event.Skip();
   });
+}
+
+void CaseSearchBox::MakeDropDown() {
+  popup_ = new wxPopupWindow(this, wxBORDER_SIMPLE);
+  hits_ = new wxListBox(popup_, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr,
+                        wxLB_SINGLE | wxBORDER_NONE);
+  hits_->SetName("Pratiche trovate");
   // The mouse alone chooses at once; the keyboard moves first, and chooses with Return.
   hits_->Bind(wxEVT_LEFT_UP, [this](wxMouseEvent& event) {
     const int place = hits_->HitTest(event.GetPosition());
@@ -55,7 +58,7 @@ void CaseSearchBox::Empty() {
 
 void CaseSearchBox::HideDropDown() {
   pause_.Stop();
-  popup_->Hide();
+  if (popup_ != nullptr) popup_->Hide();
 }
 
 void CaseSearchBox::Search() {
@@ -74,6 +77,7 @@ void CaseSearchBox::Search() {
 
 void CaseSearchBox::ShowHits() {
   if (!HasFocus()) return;
+  if (popup_ == nullptr) MakeDropDown();
   wxArrayString texts;
   for (const FoundCase& hit : header_.found) texts.Add(Wx(hit.title));
   hits_->Enable(!texts.empty());
@@ -108,7 +112,7 @@ void CaseSearchBox::FocusOnDefaultButton() {
 
 void CaseSearchBox::OnKey(wxKeyEvent& event) {
   const int count = static_cast<int>(header_.found.size());
-  const int chosen = hits_->GetSelection();
+  const int chosen = hits_ == nullptr ? wxNOT_FOUND : hits_->GetSelection();
   const bool shown = DropDownShown();
   switch (event.GetKeyCode()) {
     case WXK_DOWN:

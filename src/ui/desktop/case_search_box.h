@@ -20,13 +20,14 @@ class CaseSearchBox : public wxTextCtrl {
 
   // Takes the header's search text over where the program has changed it.
   void Draw();
-  bool DropDownShown() const { return popup_->IsShown(); }
+  bool DropDownShown() const { return popup_ != nullptr && popup_->IsShown(); }
   void HideDropDown();
   // Takes out what was typed, searched for or not.
   void Empty();
 
  private:
   void Search();
+  void MakeDropDown();
   void ShowHits();
   void ChooseHit(int place);
   void FocusOnDefaultButton();
@@ -37,8 +38,9 @@ class CaseSearchBox : public wxTextCtrl {
   std::string drawn_;  // the header's search text as drawn last
   std::string asked_;  // what was searched for last
   wxTimer pause_;      // waits until the user stops typing
-  wxPopupWindow* popup_;
-  wxListBox* hits_;
+  // Made with the first search: most starts need none.
+  wxPopupWindow* popup_ = nullptr;
+  wxListBox* hits_ = nullptr;
 };
 
 }  // namespace ordex::desktop
