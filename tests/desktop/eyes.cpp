@@ -8,6 +8,18 @@
 #include <wx/toplevel.h>
 
 namespace ordex::desktop_tests {
+namespace {
+
+// `texts` is a std::vector<std::string>.
+void AddDrawnTexts(GtkWidget* widget, gpointer texts) {
+  if (GTK_IS_LABEL(widget) && gtk_widget_get_mapped(widget) != FALSE) {
+    static_cast<std::vector<std::string>*>(texts)->emplace_back(
+        gtk_label_get_text(GTK_LABEL(widget)));
+  }
+  if (GTK_IS_CONTAINER(widget)) gtk_container_forall(GTK_CONTAINER(widget), AddDrawnTexts, texts);
+}
+
+}  // namespace
 
 std::vector<wxWindow*> ControlsOf(const wxWindow& top) {
   std::vector<wxWindow*> controls;
@@ -41,6 +53,12 @@ std::vector<std::string> ButtonsOf(const wxWindow& top) {
     const auto* button = dynamic_cast<wxButton*>(control);
     if (button != nullptr && button->IsShownOnScreen()) texts.push_back(LabelOf(*button));
   }
+  return texts;
+}
+
+std::vector<std::string> DrawnTextsOf(const wxWindow& top) {
+  std::vector<std::string> texts;
+  AddDrawnTexts(top.GetHandle(), &texts);
   return texts;
 }
 

@@ -38,6 +38,9 @@ Control* Seen(const wxWindow& top, const std::string& nameOrLabel) {
 std::vector<std::string> TextsOf(const wxWindow& top);
 std::vector<std::string> ButtonsOf(const wxWindow& top);
 
+// What the desktop draws on the labels, links and buttons that are seen, letter for letter.
+std::vector<std::string> DrawnTextsOf(const wxWindow& top);
+
 // The modal window in front; null where there is none.
 wxDialog* FrontDialog();
 // That, or else the main window; null where neither is seen.

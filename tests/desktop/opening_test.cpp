@@ -8,6 +8,7 @@
 
 #include <sstream>
 
+#include "database.h"
 #include "desk_test.h"
 #include "ui/desktop/platform.h"
 
@@ -185,6 +186,16 @@ TEST_F(OpeningTest, TheColumnsOfAProfileHaveTheirWidths) {
   EXPECT_GE(widths[2], 327);
   EXPECT_LE(widths[2], 327 + 16);
   EXPECT_EQ(widths[3], 0);
+}
+
+// To the toolkit an ampersand and an underscore announce the letter of a mnemonic.
+TEST_F(OpeningTest, SignsInNamesAreDrawnAsTheyAre) {
+  sessions::RunSql(office_.database(),
+                   "UPDATE Anagrafica SET Cognome = 'ROSSI & FIGLI_2 S.R.L.', Nome = '' "
+                   "WHERE Cognome LIKE 'EDILIZIA VALLEBRUNA%'");
+  Open("profilo-contratto.txt");
+  EXPECT_THAT(Frame([](const wxWindow& frame) { return DrawnTextsOf(frame); }),
+              ::testing::Contains("ROSSI & FIGLI_2 S.R.L."));
 }
 
 TEST_F(OpeningTest, TheColumnsOfAHistoryHaveTheirWidths) {

@@ -101,6 +101,15 @@ TEST_F(PersonCardTest, AClickOnTheAddressCallsTheMailProgramWithItAlone) {
   EXPECT_EQ(Ended(), std::nullopt);
 }
 
+TEST_F(PersonCardTest, TheSignsOfAnAddressAreDrawnAsTheyAre) {
+  sessions::RunSql(office_.database(),
+                   "UPDATE Anagrafica SET Email = 'mario_rossi&figli@vallebruna.example' "
+                   "WHERE Cognome LIKE 'EDILIZIA VALLEBRUNA%'");
+  OpenCardOf("EDILIZIA VALLEBRUNA S.R.L.");
+  EXPECT_THAT(OnMain([this] { return DrawnTextsOf(*card_); }),
+              ::testing::Contains("mario_rossi&figli@vallebruna.example"));
+}
+
 TEST_F(PersonCardTest, EveryTextFitsIntoTheCard) {
   OpenCardOf("IMMOBILIARE PONTEMIRTO S.P.A.");
   EXPECT_TRUE(OnMain([this] {

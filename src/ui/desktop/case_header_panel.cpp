@@ -2,6 +2,7 @@
 
 #include <wx/settings.h>
 
+#include "ui/desktop/link.h"
 #include "ui/desktop/wx_text.h"
 
 namespace ordex::desktop {
@@ -80,8 +81,7 @@ CaseHeaderPanel::Party CaseHeaderPanel::AddParty(wxSizer& row, const wxString& c
                                                  const PersonLink& person, const ActRunner& run) {
   Party party;
   party.name = AddValue(row, caption, 1);
-  party.link = new wxHyperlinkCtrl(this, wxID_ANY, "-", wxString(), wxDefaultPosition,
-                                   wxDefaultSize, wxHL_ALIGN_LEFT | wxBORDER_NONE);
+  party.link = MakeLink(this, {});
   party.link->SetVisitedColour(party.link->GetNormalColour());
   party.link->SetMinSize(wxSize(FromDIP(40), -1));
   party.link->Bind(wxEVT_HYPERLINK, [&person, run](wxHyperlinkEvent&) {
@@ -95,15 +95,11 @@ void CaseHeaderPanel::DrawParty(const Party& party, const PersonLink& person) {
   const bool registered = person.idAna != 0;
   party.link->Show(registered);
   party.name->Show(!registered);
-  if (!registered) {
+  if (registered) {
+    SetLinkText(*party.link, person.name);
+  } else {
     SetText(*party.name, person.name);
-    return;
   }
-  // "ROSSI & C." has no mnemonic.
-  const wxString label = wxControl::EscapeMnemonics(Wx(person.name));
-  if (party.link->GetLabel() == label) return;
-  party.link->SetLabel(label);
-  party.link->SetToolTip(Wx(person.name));
 }
 
 void CaseHeaderPanel::Draw() {

@@ -1,13 +1,13 @@
 #include "ui/desktop/person_card_dialog.h"
 
 #include <wx/button.h>
-#include <wx/hyperlink.h>
 #include <wx/statbox.h>
 #include <wx/stattext.h>
 
 #include <algorithm>
 
 #include "base/text.h"
+#include "ui/desktop/link.h"
 #include "ui/desktop/wx_text.h"
 
 namespace ordex::desktop {
@@ -64,9 +64,7 @@ wxSizer* PersonCardDialog::MakeCard() {
 wxSizer* PersonCardDialog::MakeEmail(wxWindow* frame) {
   auto* row = new wxBoxSizer(wxHORIZONTAL);
   row->Add(new wxStaticText(frame, wxID_ANY, Wx(card_.Label1)), 0, wxALIGN_CENTRE_VERTICAL);
-  auto* link =
-      new wxHyperlinkCtrl(frame, wxID_ANY, Wx(card_.lblInfo2), wxString(), wxDefaultPosition,
-                          wxDefaultSize, wxHL_ALIGN_LEFT | wxBORDER_NONE);
+  wxHyperlinkCtrl* link = MakeLink(frame, card_.lblInfo2);
   link->Bind(wxEVT_HYPERLINK,
              [this](wxHyperlinkEvent&) { Do([this] { logic_.lblInfo2_Click(); }); });
   row->Add(link, 0, wxALIGN_CENTRE_VERTICAL);

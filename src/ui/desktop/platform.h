@@ -16,6 +16,10 @@ void UseCompactControls();
 // Draws a button flat where the toolkit does not by itself.
 void MakeFlat(wxWindow& button);
 
+// Has a link read the mnemonics of its label, and so the signs that stand for themselves, where the
+// toolkit writes them and then shows them as they are.
+void ReadMnemonics(wxWindow& link);
+
 // After controls inside `window` were shown, hidden or changed: has the toolkit give each its size.
 void SettleLayout(wxWindow& window);
 

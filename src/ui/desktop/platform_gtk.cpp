@@ -73,6 +73,11 @@ void MakeFlat(wxWindow& button) {
   if (GTK_IS_BUTTON(widget)) gtk_button_set_relief(GTK_BUTTON(widget), GTK_RELIEF_NONE);
 }
 
+void ReadMnemonics(wxWindow& link) {
+  GtkWidget* widget = link.GetHandle();
+  if (GTK_IS_BUTTON(widget)) gtk_button_set_use_underline(GTK_BUTTON(widget), TRUE);
+}
+
 // The mark that a widget wants a new size is passed upwards only once, and taken away where the
 // widget is measured; the panels, which place their children themselves, never are. A mark left
 // from a time when a panel was hidden would keep every later change below it from the window.

@@ -23,6 +23,9 @@ void UseCompactControls() {}
 // Buttons without a border are flat by themselves.
 void MakeFlat(wxWindow&) {}
 
+// Links read them by themselves.
+void ReadMnemonics(wxWindow&) {}
+
 // A control has its size as soon as it is laid out.
 void SettleLayout(wxWindow&) {}
 

@@ -1,0 +1,24 @@
+#include "ui/desktop/link.h"
+
+#include "ui/desktop/platform.h"
+#include "ui/desktop/wx_text.h"
+
+namespace ordex::desktop {
+
+wxHyperlinkCtrl* MakeLink(wxWindow* parent, std::string_view text) {
+  // The toolkit makes no link without a text.
+  auto* link = new wxHyperlinkCtrl(parent, wxID_ANY, "-", wxString(), wxDefaultPosition,
+                                   wxDefaultSize, wxHL_ALIGN_LEFT | wxBORDER_NONE);
+  ReadMnemonics(*link);
+  if (!text.empty()) SetLinkText(*link, text);
+  return link;
+}
+
+void SetLinkText(wxHyperlinkCtrl& link, std::string_view text) {
+  const wxString label = wxControl::EscapeMnemonics(Wx(text));
+  if (link.GetLabel() == label) return;
+  link.SetLabel(label);
+  link.SetToolTip(Wx(text));
+}
+
+}  // namespace ordex::desktop
