@@ -8,8 +8,7 @@
 namespace ordex::desktop {
 
 wxHyperlinkCtrl* MakeLink(wxWindow* parent, std::string_view text);
-// Shows the text letter for letter: names and addresses hold ampersands and underscores, which
-// announce a mnemonic to some toolkit or other.
+// Shows the text letter for letter, and as the tool tip too, where it may be too long for the link.
 void SetLinkText(wxHyperlinkCtrl& link, std::string_view text);
 
 }  // namespace ordex::desktop

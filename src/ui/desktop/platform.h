@@ -1,6 +1,7 @@
 // What differs from desktop to desktop; one source file for each.
 #pragma once
 
+#include <wx/hyperlink.h>
 #include <wx/string.h>
 #include <wx/window.h>
 
@@ -16,9 +17,9 @@ void UseCompactControls();
 // Draws a button flat where the toolkit does not by itself.
 void MakeFlat(wxWindow& button);
 
-// Has a link read the mnemonics of its label, and so the signs that stand for themselves, where the
-// toolkit writes them and then shows them as they are.
-void ReadMnemonics(wxWindow& link);
+// Has a link show the text letter for letter: an ampersand or an underscore announces a mnemonic to
+// some toolkits, and not all of them say how to write the sign itself.
+void SetLinkLabel(wxHyperlinkCtrl& link, const wxString& text);
 
 // After controls inside `window` were shown, hidden or changed: has the toolkit give each its size.
 void SettleLayout(wxWindow& window);

@@ -73,7 +73,9 @@ void MakeFlat(wxWindow& button) {
   if (GTK_IS_BUTTON(widget)) gtk_button_set_relief(GTK_BUTTON(widget), GTK_RELIEF_NONE);
 }
 
-void ReadMnemonics(wxWindow& link) {
+// The toolkit doubles the underscores of every label, but has a link show them both.
+void SetLinkLabel(wxHyperlinkCtrl& link, const wxString& text) {
+  link.SetLabel(wxControl::EscapeMnemonics(text));
   GtkWidget* widget = link.GetHandle();
   if (GTK_IS_BUTTON(widget)) gtk_button_set_use_underline(GTK_BUTTON(widget), TRUE);
 }

@@ -23,8 +23,10 @@ void UseCompactControls() {}
 // Buttons without a border are flat by themselves.
 void MakeFlat(wxWindow&) {}
 
-// Links read them by themselves.
-void ReadMnemonics(wxWindow&) {}
+// The toolkit writes the ampersands of a link so that they are shown.
+void SetLinkLabel(wxHyperlinkCtrl& link, const wxString& text) {
+  link.SetLabel(text);
+}
 
 // A control has its size as soon as it is laid out.
 void SettleLayout(wxWindow&) {}
