@@ -8,6 +8,7 @@
 #include <sstream>
 #include <streambuf>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "base/text_file.h"
@@ -73,7 +74,13 @@ class Place {
     for (const char* name : {"office.db-wal", "office.db-shm", "office.db"}) {
       std::filesystem::remove(folder_.path() / name);
     }
-    std::filesystem::copy_file(folder_.path() / "original.db", folder_.path() / "office.db");
+    // The alarm that the fuzzer sets for itself may come in between.
+    std::error_code failure;
+    do {
+      std::filesystem::copy_file(folder_.path() / "original.db", folder_.path() / "office.db",
+                                 std::filesystem::copy_options::overwrite_existing, failure);
+    } while (failure == std::errc::interrupted);
+    Require(!failure, "the office is there anew");
   }
 
  private:
