@@ -122,6 +122,7 @@ class JusticeOfThePeaceRules : public PageRules {
     reader_.Taken(szRiga, "parti");
     partiesAwaited_ = false;
     while (auto line = NextOfBlock()) {
+      RequirePartyForms();
       if (TakeParty(*line, {&delimiters_.plaintiff, &delimiters_.plaintiffToo}, "Attore",
                     "DifAttore") ||
           TakeParty(*line, {&delimiters_.defendant, &delimiters_.defendantToo}, "Convenuto",
@@ -138,14 +139,23 @@ class JusticeOfThePeaceRules : public PageRules {
     }
   }
 
+  // One that the mapping file lacks is an error at the block's first line, whatever that holds.
+  // Error: missing key.
+  void RequirePartyForms() const {
+    for (const Delimiter* form : {&delimiters_.plaintiff, &delimiters_.plaintiffToo,
+                                  &delimiters_.defendant, &delimiters_.defendantToo}) {
+      form->text();
+    }
+  }
+
   bool TakeParty(const PageLine& line, std::initializer_list<const Delimiter*> forms,
                  std::string_view partyKey, std::string_view counselKey) {
     for (const Delimiter* form : forms) {
       const auto around = SplitOnce(line.text, form->text());
       if (!around) continue;
       reader_.Taken(line, "parte");
-      ShowParty(form->text(), Trim(around->right));
       KeepParty(around->right, partyKey, counselKey);
+      ShowParty(form->text(), Trim(around->right));
       return true;
     }
     return false;

@@ -194,11 +194,13 @@ TEST(JusticeMissingDelimiter, OfThePartiesStopsInTheDataSection) {
             StopInPage(5, MissingText("DELGDP3"), 3, "x"));
 }
 
-TEST(JusticeMissingDelimiter, OfAPartyFormStopsAtTheFirstLineOfThePartiesThatAsksForIt) {
+TEST(JusticeMissingDelimiter, OfAPartyFormStopsAtTheFirstLineOfThePartiesWhateverItHolds) {
   for (const std::string key : {"DELGDP8", "DELGDP9", "DELGDP10", "DELGDP11"}) {
-    EXPECT_EQ(ReadWithout(key, {kData, "Le parti", "altro", ""}),
-              StopInPage(5, MissingText(key), 3, "altro"))
-        << key;
+    for (const std::string line : {"altro", "Ricorre: ROSSI", "Resiste: BIANCHI"}) {
+      EXPECT_EQ(ReadWithout(key, {kData, "Le parti", line, ""}),
+                StopInPage(5, MissingText(key), 3, line))
+          << key;
+    }
   }
 }
 

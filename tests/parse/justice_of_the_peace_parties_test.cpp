@@ -53,6 +53,23 @@ TEST(JusticeParties, ThatFillNoFieldAreShownWithoutOneAndStoredAsPartiesOnly) {
   EXPECT_EQ(bench.sink.parties, (Parties{{"ROSSI", "Neri"}, {"BIANCHI", ""}}));
 }
 
+TEST(JusticeParties, ComeBeforeTheFieldOfTheirLineInThePagesValues) {
+  JusticeBench bench;
+  EXPECT_EQ(ReadParties(bench, {"Ricorre: ROSSI rappresentato/a da Neri"}), Stop{});
+  EXPECT_EQ(bench.Values(), (NamedValues{{"Attore", "ROSSI"},
+                                         {"DifAttore", "Neri"},
+                                         {"ParteAttrice", "ROSSI rappresentato/a da Neri"}}));
+}
+
+// Stored by the party's own key first, the field's value joins it as on any second value.
+TEST(JusticeParties, OfAnOfficeThatMapsTheirFormToTheKeyOfTheSideAreNotLost) {
+  JusticeBench bench;
+  bench.Fields("Attore=Ricorre:\n");
+  EXPECT_EQ(ReadParties(bench, {"Ricorre: ROSSI rappresentato/a da Neri"}), Stop{});
+  EXPECT_EQ(bench.Values(), (NamedValues{{"DifAttore", "Neri"},
+                                         {"Attore", "ROSSI; \r\nROSSI rappresentato/a da Neri"}}));
+}
+
 TEST(JusticeParties, WithoutTheSeparatorHaveAnEmptyCounsel) {
   JusticeBench bench;
   EXPECT_EQ(ReadParties(bench, {"Ricorre: ROSSI Rappresentato/a da Neri",
