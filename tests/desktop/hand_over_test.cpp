@@ -12,10 +12,12 @@
 #include <memory>
 #include <utility>
 
+#include "base/error.h"
 #include "database.h"
 #include "desk_test.h"
 #include "program_run.h"
 #include "screen.h"
+#include "ui/desktop/instance_lock.h"
 
 namespace ordex::desktop_tests {
 namespace {
@@ -234,6 +236,22 @@ TEST_F(HandOverTest, AFolderThatOthersMayEnterIsRefused) {
   PressIn(NextWindow("Ordex"), WXK_RETURN);
   EXPECT_THAT(EndOf(run), Optional(4));
   std::filesystem::remove_all(LinkFolder());
+}
+
+TEST(InstanceLockTest, SaysWhichFolderCannotBeMadeAndWhatToDo) {
+  const std::string runtime = std::getenv("XDG_RUNTIME_DIR");
+  setenv("XDG_RUNTIME_DIR", "/assente", 1);
+  std::string told;
+  try {
+    desktop::InstanceLock().Acquire();
+  } catch (const RunTimeError& error) {
+    told = error.description();
+  }
+  setenv("XDG_RUNTIME_DIR", runtime.c_str(), 1);
+  EXPECT_EQ(
+      told,
+      "Errore di accesso al file: impossibile creare la cartella \"/assente/ordex\". Controllare "
+      "che la cartella che la contiene esista e sia scrivibile e riavviare Ordex");
 }
 
 TEST_F(HandOverTest, AWindowThatIsClosedGivesTheUserBackAndKeepsItsHandle) {

@@ -110,7 +110,9 @@ void OrdexApp::OpenWindow() {
   // is made or loads waits for the end of that.
   server_ = std::make_unique<LinkServer>([this] { desk_->frame()->CallAfter(&MainFrame::Poke); });
   if (!server_->Create(Wx(LinkService()))) {
-    throw MakeError(ErrorNumber::kFileAccess, "impossibile aprire il collegamento tra due avvii");
+    throw MakeError(ErrorNumber::kFileAccess, "impossibile aprire \"" + LinkService() +
+                                                  "\", il collegamento tra due avvii. Chiudere "
+                                                  "ogni finestra di Ordex e riprovare");
   }
   const std::filesystem::path folder =
       ProgramFolder(options_.dir, ExecutableFile(Utf8(argv[0]).c_str()));
