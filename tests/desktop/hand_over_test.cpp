@@ -15,6 +15,7 @@
 #include "base/error.h"
 #include "database.h"
 #include "desk_test.h"
+#include "peak_memory.h"
 #include "program_run.h"
 #include "screen.h"
 #include "ui/desktop/instance_lock.h"
@@ -56,8 +57,9 @@ class HandOverTest : public ::testing::Test {
  protected:
   HandOverTest() : office_(ORDEX_SOURCE_DIR) {}
 
-  void Copy(const std::string& sample) {
-    OnMain([this, text = Sample(sample)] {
+  void Copy(const std::string& sample) { CopyText(Sample(sample)); }
+  void CopyText(const std::string& text) {
+    OnMain([this, text] {
       *asked_ = 0;
       wxTheClipboard->Open();
       wxTheClipboard->SetData(new WatchedText(text, asked_));
@@ -116,6 +118,24 @@ class HandOverTest : public ::testing::Test {
   std::shared_ptr<int> asked_ = std::make_shared<int>(0);
   int askedByFirst_ = 0;
 };
+
+// The clipboard's text, the page file's and what the desktop itself holds of it, and no more.
+TEST_F(HandOverTest, APageOfTwentyMegabytesTakesFourTimesItsSizeInMemoryAtMost) {
+  constexpr std::size_t kSize = 20'000'000;
+  const auto memoryOf = [this](const std::string& page) {
+    CopyText(page);
+    ProgramRun& run = Start();
+    window_ = NextWindow(kProfileTitle);
+    const std::size_t peak = sessions::PeakMemoryOf(run.id());
+    PressIn(window_, WXK_ESCAPE);
+    EXPECT_THAT(EndOf(run), Optional(0));
+    return peak;
+  };
+  const std::string page = Sample("profilo-contratto.txt");
+  std::string large = page + "\n";
+  while (large.size() < kSize) large += "Avviso della cancelleria senza etichetta, riga su riga\n";
+  EXPECT_LE(memoryOf(large) - memoryOf(page), 4 * kSize);
+}
 
 TEST_F(HandOverTest, AFurtherProfileIsTakenAndUpdatedByTheFirst) {
   ProgramRun& first = Open("profilo-contratto.txt", kProfileTitle);

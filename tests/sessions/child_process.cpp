@@ -11,9 +11,10 @@
 #include <array>
 #include <csignal>
 #include <ctime>
-#include <fstream>
 #include <stdexcept>
 #include <thread>
+
+#include "peak_memory.h"
 
 namespace ordex::sessions {
 namespace {
@@ -173,13 +174,7 @@ void ChildProcess::Kill() const {
 
 // What the system accounts for an ended process counts what we held ourselves when it was started.
 std::size_t ChildProcess::PeakMemory() const {
-  constexpr std::size_t kKilobyte = 1024;
-  std::ifstream status("/proc/" + std::to_string(id_) + "/status");
-  std::size_t kilobytes = 0;
-  for (std::string line; std::getline(status, line);) {
-    if (line.starts_with("VmHWM:")) kilobytes = std::stoul(line.substr(line.find(':') + 1));
-  }
-  return kilobytes * kKilobyte;
+  return PeakMemoryOf(id_);
 }
 
 void ChildProcess::Finish() {

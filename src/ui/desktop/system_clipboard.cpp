@@ -2,6 +2,10 @@
 
 #include <wx/clipbrd.h>
 
+#include <string>
+#include <utility>
+
+#include "base/text.h"
 #include "ui/desktop/clipboard_patience.h"
 #include "ui/desktop/wx_text.h"
 
@@ -19,14 +23,35 @@ class OpenClipboard {
   OpenClipboard& operator=(const OpenClipboard&) = delete;
 };
 
+// Takes a text as the bytes that it comes in. The toolkit's own object spends four bytes on each
+// letter and copies them all on the way: a large page would take ten times its size.
+class TextBytes : public wxTextDataObject {
+ public:
+  bool SetData(const wxDataFormat& format, std::size_t size, const void* bytes) override {
+    if (format == wxDataFormat(wxDF_UNICODETEXT)) {
+      text_ = DecodeText({static_cast<const char*>(bytes), size});
+      return true;
+    }
+    // A text of an old program, in the encoding of its desktop.
+    if (!wxTextDataObject::SetData(format, size, bytes)) return false;
+    text_ = Utf8(GetText());
+    return true;
+  }
+
+  std::string Take() { return std::move(text_); }
+
+ private:
+  std::string text_;
+};
+
 }  // namespace
 
 std::string SystemClipboard::GetText() const {
   const OpenClipboard open;
-  wxTextDataObject text;
+  TextBytes text;
   // Without a text there, as with a picture, the page is as unknown as an empty one.
   if (!wxTheClipboard->GetData(text)) return {};
-  return Utf8(text.GetText());
+  return text.Take();
 }
 
 // What another program put there can only be replaced; our own is then taken away.
