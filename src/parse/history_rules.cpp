@@ -58,9 +58,15 @@ class HistoryRules : public PageRules {
 
   // The line with one blank for every two; valid until the next one.
   std::string_view Halved(std::string_view line) {
-    if (!Contains(line, "  ")) return line;
-    halved_ = ReplaceAll(line, "  ", " ");
-    return halved_;
+    constexpr std::string_view kTwoBlanks = "  ";
+    std::size_t at = OffsetOf(line, kTwoBlanks);
+    if (at == std::string_view::npos) return line;
+    halved_.clear();
+    for (; at != std::string_view::npos; at = OffsetOf(line, kTwoBlanks)) {
+      halved_.append(line.substr(0, at + 1));
+      line.remove_prefix(at + kTwoBlanks.size());
+    }
+    return halved_.append(line);
   }
 
   HistoryPaging& paging_;

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <stdexcept>
 #include <string_view>
@@ -33,46 +34,47 @@ class PackedTexts {
     return *this;
   }
 
-  std::size_t size() const { return places_.size(); }
-  bool empty() const { return places_.empty(); }
+  std::size_t size() const { return rows_.size(); }
+  bool empty() const { return rows_.empty(); }
 
   // Error: std::length_error, for a text of 4 GB and more.
   void push_back(const Row& row) {
-    Place place;
-    std::size_t bytes = 0;
+    Lengths lengths;
+    std::size_t bytes = sizeof(Lengths);
     for (std::size_t i = 0; i < kTexts; ++i) {
-      place.lengths[i] = Length(row[i]);
+      lengths[i] = Length(row[i]);
       bytes += row[i].size();
     }
-    place.begin = RoomFor(bytes);
-    char* next = place.begin;
+    char* next = RoomFor(bytes);
+    rows_.push_back(next);
+    std::memcpy(next, lengths.data(), sizeof(Lengths));
+    next += sizeof(Lengths);
     for (const std::string_view text : row) next = std::copy(text.begin(), text.end(), next);
-    places_.push_back(place);
   }
 
   Row operator[](std::size_t index) const {
-    const Place& place = places_[index];
+    const char* next = rows_[index];
+    Lengths lengths;
+    std::memcpy(lengths.data(), next, sizeof(Lengths));
+    next += sizeof(Lengths);
     Row row;
-    const char* next = place.begin;
     for (std::size_t i = 0; i < kTexts; ++i) {
-      row[i] = {next, place.lengths[i]};
-      next += place.lengths[i];
+      row[i] = {next, lengths[i]};
+      next += lengths[i];
     }
     return row;
   }
 
   void clear() {
-    places_.clear();
+    rows_.clear();
     blocks_.clear();
   }
 
  private:
   static constexpr std::size_t kBlockBytes = 65536;
 
-  struct Place {
-    char* begin = nullptr;
-    std::array<std::uint32_t, kTexts> lengths{};  // bytes of each text in turn
-  };
+  // Of a row's texts in turn, in bytes; they stand in front of them.
+  using Lengths = std::array<std::uint32_t, kTexts>;
 
   static std::uint32_t Length(std::string_view text) {
     if (text.size() > UINT32_MAX) throw std::length_error("PackedTexts: a text is too long");
@@ -108,7 +110,7 @@ class PackedTexts {
     for (std::size_t i = 0; i < other.size(); ++i) push_back(other[i]);
   }
 
-  std::vector<Place> places_;
+  std::vector<const char*> rows_;  // where each begins
   std::vector<Block> blocks_;
 };
 
