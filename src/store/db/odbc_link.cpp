@@ -78,10 +78,6 @@ std::string OdbcLink::DbmsName() const {
   return FromWide(name.data(), std::min(length, name.size()));
 }
 
-RunTimeError OdbcLink::Error(SQLHANDLE statement) {
-  return Error(DiagnosticsOf(SQL_HANDLE_STMT, statement));
-}
-
 RunTimeError OdbcLink::Error(std::span<const OdbcDiagnostic> diagnostics) {
   const bool ended = LostConnection(diagnostics) || EndedTransaction(diagnostics);
   trouble_ = ended || trouble_ == Trouble::kEnded ? Trouble::kEnded : Trouble::kPerhaps;
