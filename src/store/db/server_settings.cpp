@@ -6,33 +6,11 @@
 
 #include "base/text.h"
 #include "store/db/ascii.h"
+#include "store/db/connection_fragments.h"
 #include "store/db/odbc_settings.h"
 
 namespace ordex {
 namespace {
-
-// What the program itself puts in front of and between the fragments of the settings.
-constexpr std::string_view kBeginning = "Provider=SQLNCLI.1";
-constexpr std::string_view kMiddle = "Initial Catalog=Zelmo32;";
-
-bool EndsPiece(std::string_view text) {
-  const std::size_t last = text.find_last_not_of(' ');
-  return last == std::string_view::npos || text[last] == ';';
-}
-
-// The fragments may lack the semicolon at their ends.
-std::string WithJoints(std::string_view text) {
-  std::string whole(text);
-  if (whole.starts_with(kBeginning) &&
-      !TrimLeft(whole.substr(kBeginning.size())).starts_with(';')) {
-    whole.insert(kBeginning.size(), ";");
-  }
-  const std::size_t middle = whole.find(kMiddle);
-  if (middle != std::string::npos && !EndsPiece(std::string_view(whole).substr(0, middle))) {
-    whole.insert(middle, ";");
-  }
-  return whole;
-}
 
 // "Trusted_Connection", "trusted connection": lower case, without blanks and underscores.
 std::string PlainName(std::string_view name) {
@@ -224,7 +202,7 @@ void Take(ServerSettings& settings, const ConnectionKey& key) {
 
 ServerSettings ReadServerSettings(std::string_view connectionString) {
   ServerSettings settings;
-  const ConnectionString parts(WithJoints(connectionString));
+  const ConnectionString parts(WithSemicolonsAtJoints(connectionString));
   for (const ConnectionKey& key : parts.keys()) Take(settings, key);
   return settings;
 }
