@@ -12,16 +12,10 @@
 #include "store/db/odbc_link.h"
 #include "store/db/odbc_query.h"
 #include "store/db/odbc_statement.h"
+#include "store/db/write_sql.h"
 
 namespace ordex {
 namespace {
-
-std::vector<std::string> NamesOf(std::span<const NamedValue> values) {
-  std::vector<std::string> names;
-  names.reserve(values.size());
-  for (const NamedValue& value : values) names.push_back(value.first);
-  return names;
-}
 
 RunTimeError NoIdentity(const std::string& table) {
   return MakeError(ErrorNumber::kDatabase,

@@ -77,12 +77,4 @@ std::unique_ptr<OdbcEngine> MakeOdbcEngine(std::string_view dbmsName);
 std::unique_ptr<OdbcEngine> MakeSqlServerEngine();
 std::unique_ptr<OdbcEngine> MakeOdbcSqliteEngine();
 
-// "[Table]", a bracket inside doubled. Both engines take it for a name and never for a text.
-std::string BracketedName(std::string_view name);
-// "INSERT INTO [T] ([A], [B]) VALUES (?, ?)", or DEFAULT VALUES.
-std::string PlainInsertSql(const std::string& table, std::span<const std::string> columns);
-// "UPDATE [T] SET [A] = ?, [B] = ? WHERE [K] = ?".
-std::string PlainUpdateSql(const std::string& table, std::span<const std::string> columns,
-                           const std::string& key);
-
 }  // namespace ordex

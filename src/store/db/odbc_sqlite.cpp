@@ -2,6 +2,7 @@
 #include "store/db/ascii.h"
 #include "store/db/odbc_engine.h"
 #include "store/db/sqlite_error.h"
+#include "store/db/write_sql.h"
 
 namespace ordex {
 namespace {
@@ -21,12 +22,12 @@ class OdbcSqliteEngine final : public OdbcEngine {
 
   OdbcWrite Insert(const std::string& table, std::span<const std::string> columns,
                    bool hasIdentity) const override {
-    return {PlainInsertSql(table, columns),
+    return {InsertSql(table, columns, kBrackets),
             hasIdentity ? "SELECT last_insert_rowid()" : "SELECT changes()"};
   }
   OdbcWrite Update(const std::string& table, std::span<const std::string> columns,
                    const std::string& key) const override {
-    return {PlainUpdateSql(table, columns, key), "SELECT changes()"};
+    return {UpdateSql(table, columns, key, kBrackets), "SELECT changes()"};
   }
 
   // Immediate: a reader that turns writer would be refused at once, however long it may wait.
