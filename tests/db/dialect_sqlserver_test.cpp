@@ -1,11 +1,12 @@
 // The exact T-SQL of every statement that the routines write.
+#include "store/db/dialect_sqlserver.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <string>
 #include <vector>
 
-#include "store/db/dialect.h"
 #include "store/db/odbc_engine.h"
 #include "store/db/sql_text.h"
 #include "support/db_raised.h"

@@ -7,11 +7,11 @@
 
 #include "base/error.h"
 #include "base/text.h"
-#include "store/db/dialect.h"
 #include "store/db/odbc_catalog.h"
 #include "store/db/odbc_link.h"
 #include "store/db/odbc_query.h"
 #include "store/db/odbc_statement.h"
+#include "store/db/one_select.h"
 #include "store/db/write_sql.h"
 
 namespace ordex {

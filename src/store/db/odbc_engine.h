@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "store/db/connection.h"
-#include "store/db/dialect.h"
 #include "store/db/odbc_error.h"
+#include "store/db/sql_tokens.h"
 
 namespace ordex {
 

@@ -1,5 +1,6 @@
 // The embedded engine, reached through an ODBC driver of its own.
 #include "store/db/ascii.h"
+#include "store/db/dialect_sqlite.h"
 #include "store/db/odbc_engine.h"
 #include "store/db/sqlite_error.h"
 #include "store/db/write_sql.h"

@@ -1,7 +1,7 @@
 // What only SQL Server can answer.
 #include "store/db/ascii.h"
+#include "store/db/dialect_sqlserver.h"
 #include "store/db/odbc_engine.h"
-#include "store/db/sql_tokens.h"
 #include "store/db/write_sql.h"
 
 namespace ordex {

@@ -5,7 +5,8 @@
 #include <utility>
 
 #include "base/error.h"
-#include "store/db/dialect.h"
+#include "store/db/dialect_sqlite.h"
+#include "store/db/one_select.h"
 #include "store/db/sqlite_catalog.h"
 #include "store/db/sqlite_driver.h"
 #include "store/db/sqlite_error.h"
