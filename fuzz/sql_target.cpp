@@ -14,6 +14,7 @@
 #include "store/db/sql_text.h"
 #include "store/db/sql_tokens.h"
 #include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_create.h"
 #include "support/folder.h"
 
 namespace ordex::fuzz {

@@ -8,6 +8,7 @@
 
 #include "base/error.h"
 #include "store/db/ascii.h"
+#include "store/db/fit_to_column.h"
 #include "store/db/refused_query.h"
 
 namespace ordex {

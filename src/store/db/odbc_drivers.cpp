@@ -1,3 +1,5 @@
+#include "store/db/odbc_drivers.h"
+
 #include <algorithm>
 #include <array>
 

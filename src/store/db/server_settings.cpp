@@ -1,3 +1,5 @@
+#include "store/db/server_settings.h"
+
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -7,7 +9,6 @@
 #include "base/text.h"
 #include "store/db/ascii.h"
 #include "store/db/connection_fragments.h"
-#include "store/db/odbc_settings.h"
 
 namespace ordex {
 namespace {
