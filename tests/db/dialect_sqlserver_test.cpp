@@ -190,6 +190,11 @@ TEST(SqlServerStatement, ATooLongTextIsAnErrorOfTheSessionAndNotCut) {
   EXPECT_NE(std::find(settings.begin(), settings.end(), "SET XACT_ABORT OFF"), settings.end());
 }
 
+TEST(SqlServerStatement, ASessionThatCannotBeSetUpIsNotUsed) {
+  EXPECT_TRUE(MakeSqlServerEngine()->NeedsSessionSettings());
+  EXPECT_FALSE(MakeOdbcSqliteEngine()->NeedsSessionSettings());
+}
+
 TEST(MakeOdbcEngine, TheEngineIsWhatItSaysItIs) {
   const auto limited = [](const char* name) {
     return MakeOdbcEngine(name)->Limited("SELECT 1", 2);

@@ -33,6 +33,8 @@ class OdbcEngine {
 
   // What the session is told when it begins, each a statement of its own.
   virtual std::vector<std::string> SessionSettings() const = 0;
+  // Without one of them a session may do harm.
+  virtual bool NeedsSessionSettings() const = 0;
 
   // The number is the new row's identity where `hasIdentity`, else the rows added.
   virtual OdbcWrite Insert(const std::string& table, std::span<const std::string> columns,

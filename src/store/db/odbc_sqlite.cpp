@@ -20,6 +20,8 @@ class OdbcSqliteEngine final : public OdbcEngine {
   std::vector<std::string> SessionSettings() const override {
     return {"PRAGMA synchronous=FULL", "PRAGMA foreign_keys=OFF"};
   }
+  // They only make sure of what mostly is so already.
+  bool NeedsSessionSettings() const override { return false; }
 
   OdbcWrite Insert(const std::string& table, std::span<const std::string> columns,
                    bool hasIdentity) const override {

@@ -49,6 +49,8 @@ class SqlServerEngine final : public OdbcEngine {
         "SET LOCK_TIMEOUT 5000",
     };
   }
+  // A text must not be cut, nor what was written be undone, in silence.
+  bool NeedsSessionSettings() const override { return true; }
 
   // SCOPE_IDENTITY, unlike @@IDENTITY, does not see the rows that a trigger adds; OUTPUT is refused
   // where a table has triggers. It holds for its own batch alone.
