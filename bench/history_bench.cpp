@@ -11,6 +11,7 @@
 #include "statement_log.h"
 #include "store/case_record.h"
 #include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_create.h"
 #include "support/fake_ports.h"
 #include "support/temp_folder.h"
 

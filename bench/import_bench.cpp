@@ -12,7 +12,7 @@
 #include "benchmarks.h"
 #include "statement_log.h"
 #include "store/db/open_connection.h"
-#include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_create.h"
 #include "support/fake_ports.h"
 #include "support/temp_folder.h"
 

@@ -8,6 +8,7 @@
 
 #include "base/text.h"
 #include "store/db/odbc_settings.h"
+#include "store/db/server_settings.h"
 #include "support/input.h"
 
 namespace ordex::fuzz {

@@ -13,6 +13,7 @@
 
 #include "base/text_file.h"
 #include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_create.h"
 #include "support/page_input.h"
 #include "ui/common/clocks.h"
 #include "ui/console/json_events.h"

@@ -9,9 +9,12 @@
 
 #include "base/error.h"
 #include "base/text.h"
-#include "store/db/dialect.h"
+#include "store/db/dialect_sqlite.h"
+#include "store/db/one_select.h"
 #include "store/db/sql_text.h"
+#include "store/db/sql_tokens.h"
 #include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_create.h"
 #include "support/folder.h"
 
 namespace ordex::fuzz {

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Format and lint: every source must be as clang-format leaves it and clean for clang-tidy.
-#   scripts/lint.sh           both
-#   scripts/lint.sh --format  only the format
+# Format and lint: every source must be as clang-format leaves it, include nothing of a room that
+# its own may not know, and be clean for clang-tidy.
+#   scripts/lint.sh           all of that
+#   scripts/lint.sh --format  without clang-tidy
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -10,6 +11,7 @@ need_packages $BUILD_PACKAGES $DESKTOP_PACKAGES $TEST_PACKAGES $LINT_PACKAGES
 mapfile -t files < <(git ls-files -co --exclude-standard '*.cpp' '*.h')
 clang-format --dry-run --Werror "${files[@]}"
 echo "format: clean"
+scripts/arrows.sh
 [ "${1:-}" != --format ] || exit 0
 
 # Tests and benchmarks are formatted but not linted: with their frameworks' headers that takes longer

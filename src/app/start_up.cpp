@@ -11,6 +11,7 @@
 #include "cases/case_choice_rules.h"
 #include "parse/mapping_files.h"
 #include "parse/recognition.h"
+#include "store/db/connection_fragments.h"
 
 namespace ordex {
 namespace {
@@ -37,10 +38,9 @@ std::int32_t UserOf(const std::string& setting) {
 
 }  // namespace
 
-// The fragments bring their own semicolons and keys.
 std::string ConnectionStringOf(const Settings& settings) {
-  return "Provider=SQLNCLI.1" + settings.Get("startup", "Security") + "Initial Catalog=Zelmo32;" +
-         settings.Get("startup", "Server");
+  const std::string security = settings.Get("startup", "Security");
+  return JoinConnectionFragments(security, settings.Get("startup", "Server"));
 }
 
 void MainWindow::Form_Initialize(std::string_view handle) {

@@ -7,6 +7,8 @@
 #include <cstring>
 
 #include "base/ascii_words.h"
+#include "base/utf8.h"
+#include "base/windows1252.h"
 
 namespace ordex {
 namespace {
@@ -24,29 +26,6 @@ std::size_t AsciiRun(std::string_view text) {
   }
   while (run < text.size() && IsAscii(text[run])) ++run;
   return run;
-}
-
-// One character of a text: its code point (-1 for a byte that is no valid UTF-8) and its length in
-// bytes.
-struct Character {
-  utf8proc_int32_t code;
-  std::size_t length;
-};
-
-Character FirstCharacter(std::string_view text) {
-  const auto* bytes = reinterpret_cast<const utf8proc_uint8_t*>(text.data());
-  if (IsAscii(text.front())) return {bytes[0], 1};
-  utf8proc_int32_t code = -1;
-  const utf8proc_ssize_t length =
-      utf8proc_iterate(bytes, static_cast<utf8proc_ssize_t>(text.size()), &code);
-  if (length < 1) return {-1, 1};
-  return {code, static_cast<std::size_t>(length)};
-}
-
-void AppendCodePoint(utf8proc_int32_t code, std::string& out) {
-  std::array<utf8proc_uint8_t, 4> bytes{};
-  const utf8proc_ssize_t length = utf8proc_encode_char(code, bytes.data());
-  out.append(reinterpret_cast<const char*>(bytes.data()), static_cast<std::size_t>(length));
 }
 
 // The byte offset of the character behind the first `count` ones, or the text's size.
@@ -99,13 +78,6 @@ void AppendMapped(std::string_view text, std::string& out, char first, MapCode m
     text.remove_prefix(character.length);
   }
 }
-
-// The code points of the bytes 0x80 to 0x9F; the five that Windows-1252 leaves open stand for the
-// control characters of the same number, as Windows itself reads them.
-constexpr std::array<utf8proc_int32_t, 32> kWindows1252 = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 // In UTF-8 no sign of the old code page takes more than three bytes, and a letter of ASCII takes
 // one.
@@ -310,7 +282,7 @@ std::string FromWindows1252(std::string_view bytes) {
     bytes.remove_prefix(run);
     if (bytes.empty()) return text;
     const auto code = static_cast<unsigned char>(bytes.front());
-    AppendCodePoint(code < 0xA0 ? kWindows1252[code - 0x80U] : code, text);
+    AppendCodePoint(CodeOfWindows1252(code), text);
     bytes.remove_prefix(1);
   }
 }

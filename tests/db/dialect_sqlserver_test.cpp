@@ -1,11 +1,12 @@
 // The exact T-SQL of every statement that the routines write.
+#include "store/db/dialect_sqlserver.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <string>
 #include <vector>
 
-#include "store/db/dialect.h"
 #include "store/db/odbc_engine.h"
 #include "store/db/sql_text.h"
 #include "support/db_raised.h"
@@ -23,29 +24,29 @@ void ExpectUnchanged(const std::string& sql) {
 
 // --- the routines' statements -------------------------------------------------------------------
 
-TEST(SqlServerStatement, TheCasesOfAPagesNumber) {
+TEST(SqlServerStatement, TheLookUpOfAPagesNumberIsLeftAlone) {
   ExpectUnchanged("Select ID_Pra from Pratica where NumeroRegGenerale = '1842/2025'");
 }
 
-TEST(SqlServerStatement, AParty) {
+TEST(SqlServerStatement, TheLookUpOfAPartyIsLeftAlone) {
   ExpectUnchanged("SELECT Cognome,Nome From Anagrafica WHERE ID_Ana = 12");
 }
 
-TEST(SqlServerStatement, APersonsCard) {
+TEST(SqlServerStatement, TheLookUpOfAPersonsCardIsLeftAlone) {
   ExpectUnchanged("SELECT * FROM Anagrafica WHERE ID_Ana = 12");
 }
 
-TEST(SqlServerStatement, TheUsersWhoKeepTheBooks) {
+TEST(SqlServerStatement, TheLookUpOfTheUsersWhoKeepTheBooksIsLeftAlone) {
   ExpectUnchanged("Select ID_Utente, NomeUtente from Utenti where TitContabilita = 'TRUE'");
 }
 
-TEST(SqlServerStatement, TheCaseOfAnAgendaPage) {
+TEST(SqlServerStatement, TheLookUpOfTheCaseOfAnAgendaPageIsLeftAlone) {
   ExpectUnchanged(
       "SELECT ID_Pra,ID_Cliente,ID_Contab,Utenti.NomeUtente from Pratica inner join Utenti on "
       "Pratica.ID_Contab = Utenti.ID_Utente  where Pratica.NumeroRegGenerale = '907/2024'");
 }
 
-TEST(SqlServerStatement, AnAgendaEntryThatIsThereAlready) {
+TEST(SqlServerStatement, TheLookUpOfAnAgendaEntryHasItsDateTextsAndUcaseRewritten) {
   EXPECT_EQ(
       Rewritten("SELECT * from SCADENZE where  Data_End =#06/10/2024# and Codice_Pra = 12 and "
                 "Parti = \"ROSSI \\ D'AMICO\" and ucase(Scadenza) = \"PROVA \"\"A\"\"\""),
@@ -53,21 +54,21 @@ TEST(SqlServerStatement, AnAgendaEntryThatIsThereAlready) {
       "Parti = 'ROSSI \\ D''AMICO' and UPPER(Scadenza) = 'PROVA \"A\"'");
 }
 
-TEST(SqlServerStatement, AnAgendaEntryWithAccents) {
+TEST(SqlServerStatement, TheLookUpOfAnAgendaEntryWithAccentsGetsAnNBeforeItsTexts) {
   EXPECT_EQ(Rewritten("SELECT * from SCADENZE where  Data_End =#12/01/2025# and Codice_Pra = 1 and "
                       "Parti = \"ȘTEFĂNESCU\" and ucase(Scadenza) = \"ATTIVITÀ\""),
             "SELECT * from SCADENZE where  Data_End ='20251201' and Codice_Pra = 1 and "
             "Parti = N'ȘTEFĂNESCU' and UPPER(Scadenza) = N'ATTIVITÀ'");
 }
 
-TEST(SqlServerStatement, TheCaseOfAHearing) {
+TEST(SqlServerStatement, TheLookUpOfTheCaseOfAHearingIsLeftAlone) {
   ExpectUnchanged(
       "SELECT * from Pratica inner join Utenti on Pratica.ID_Contab = Utenti.ID_Utente  where "
       "Pratica.NumeroRegGenerale = " +
       FormattaStringaSql("12'A/2024"));
 }
 
-TEST(SqlServerStatement, AHearingThatIsThereAlready) {
+TEST(SqlServerStatement, TheLookUpOfAHearingIsLeftAlone) {
   const std::string sql =
       "select * from SCADENZE where  Data_End =" + FormattaDataSql("12/03/2026") +
       " and Codice_Pra = 2 and IsUdienza = 'TRUE' and IsOrdex = 'TRUE'";
@@ -76,7 +77,7 @@ TEST(SqlServerStatement, AHearingThatIsThereAlready) {
             "and Codice_Pra = 2 and IsUdienza = 'TRUE' and IsOrdex = 'TRUE'");
 }
 
-TEST(SqlServerStatement, ADeadlineThatIsThereAlready) {
+TEST(SqlServerStatement, TheLookUpOfADeadlineGetsAnNBeforeATextWithAccentsAlone) {
   const std::string sql =
       "select * from SCADENZE where  Data_End =" + FormattaDataSql("20/02/2026") +
       " and Codice_Pra = 2 and Scadenza = " + FormattaStringaSql("Memoria dell'attività") +
@@ -86,7 +87,7 @@ TEST(SqlServerStatement, ADeadlineThatIsThereAlready) {
             "and Codice_Pra = 2 and Scadenza = N'Memoria dell''attività' and IsOrdex = 'TRUE'");
 }
 
-TEST(SqlServerStatement, APersonByNames) {
+TEST(SqlServerStatement, TheLookUpOfAPersonGetsAnNBeforeANameWithAccentsAlone) {
   const std::string before = "SELECT * from Anagrafica where  LOWER(Cognome) = ";
   EXPECT_EQ(Rewritten(before + FormattaStringaSql("d'amico") +
                       " AND  LOWER(Nome) = " + FormattaStringaSql("luca")),
@@ -98,29 +99,29 @@ TEST(SqlServerStatement, APersonByNames) {
             "'mauro'");
 }
 
-TEST(SqlServerStatement, ACompanyByName) {
+TEST(SqlServerStatement, TheLookUpOfACompanyIsLeftAlone) {
   ExpectUnchanged(
       "SELECT * from Anagrafica where  LOWER(Cognome) = 'edilizia bianchi s.r.l.' AND  Nome IS "
       "NULL");
 }
 
-TEST(SqlServerStatement, ACaseByItsIdentifier) {
+TEST(SqlServerStatement, TheLookUpOfACaseByItsIdentifierIsLeftAlone) {
   ExpectUnchanged("SELECT * FROM Pratica WHERE Id_Pra = 0");
 }
 
-TEST(SqlServerStatement, TheHighestPosition) {
+TEST(SqlServerStatement, TheLookUpOfTheHighestPositionIsLeftAlone) {
   ExpectUnchanged("SELECT MAX(NumPos) AS PosMax FROM Pratica");
 }
 
-TEST(SqlServerStatement, TheEventsOfACaseAreDeleted) {
+TEST(SqlServerStatement, TheDeletionOfACasesEventsIsLeftAlone) {
   ExpectUnchanged("Delete from EventiPraOrdex where ID_PraRel = 7");
 }
 
-TEST(SqlServerStatement, ThePortalProfile) {
+TEST(SqlServerStatement, TheLookUpOfThePortalProfileIsLeftAlone) {
   ExpectUnchanged("SELECT * from PraOrdex where ID_PraRel = 7");
 }
 
-TEST(SqlServerStatement, OneEventAndAllEvents) {
+TEST(SqlServerStatement, TheLookUpsOfOneEventAndOfAllEventsAreLeftAlone) {
   ExpectUnchanged("SELECT * from EventiPraOrdex where ID_PraRel = 7 and Progressivo = 3");
   ExpectUnchanged("SELECT * from EventiPraOrdex where ID_PraRel = 7");
 }
@@ -187,6 +188,11 @@ TEST(SqlServerStatement, ATooLongTextIsAnErrorOfTheSessionAndNotCut) {
   EXPECT_NE(std::find(settings.begin(), settings.end(), "SET ANSI_WARNINGS ON"), settings.end());
   EXPECT_NE(std::find(settings.begin(), settings.end(), "SET TEXTSIZE 2147483647"), settings.end());
   EXPECT_NE(std::find(settings.begin(), settings.end(), "SET XACT_ABORT OFF"), settings.end());
+}
+
+TEST(SqlServerStatement, ASessionThatCannotBeSetUpIsNotUsed) {
+  EXPECT_TRUE(MakeSqlServerEngine()->NeedsSessionSettings());
+  EXPECT_FALSE(MakeOdbcSqliteEngine()->NeedsSessionSettings());
 }
 
 TEST(MakeOdbcEngine, TheEngineIsWhatItSaysItIs) {

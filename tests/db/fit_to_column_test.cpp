@@ -1,10 +1,11 @@
+#include "store/db/fit_to_column.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 #include <vector>
 
-#include "store/db/db_record.h"
 #include "support/db_raised.h"
 
 namespace ordex {

@@ -9,6 +9,7 @@
 #include "store/db/odbc_connection.h"
 #include "store/db/open_connection.h"
 #include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_create.h"
 #include "support/db_office.h"
 #include "support/db_raised.h"
 #include "support/db_temporary_folder.h"

@@ -4,7 +4,7 @@
 
 #include "connection_contract.h"
 #include "store/db/open_connection.h"
-#include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_create.h"
 
 namespace ordex {
 namespace {

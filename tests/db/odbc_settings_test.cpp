@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "store/db/server_settings.h"
+
 namespace ordex {
 namespace {
 

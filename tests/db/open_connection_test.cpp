@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/path_text.h"
-#include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_create.h"
 #include "support/db_raised.h"
 #include "support/db_temporary_folder.h"
 

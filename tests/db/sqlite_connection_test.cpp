@@ -1,5 +1,6 @@
 // What is particular to the embedded engine.
 #include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_create.h"
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>

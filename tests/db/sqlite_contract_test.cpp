@@ -1,6 +1,7 @@
 // The driver of the embedded engine, against what every driver must do.
 #include "connection_contract.h"
 #include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_create.h"
 
 namespace ordex {
 namespace {

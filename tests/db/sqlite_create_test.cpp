@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_create.h"
 #include "support/db_raised.h"
 #include "support/db_temporary_folder.h"
 

@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_create.h"
 #include "store/db/sqlite_driver.h"
 #include "support/db_raised.h"
 #include "support/db_temporary_folder.h"

@@ -2,10 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
 #include <string>
 
 #include "store/db/open_connection.h"
 #include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_create.h"
 #include "support/db_raised.h"
 #include "support/db_temporary_folder.h"
 
@@ -37,6 +39,37 @@ TEST(CreateSqliteDatabase, ARelativeNameThatLooksLikeAnAddressIsANameLikeAnyOthe
   EXPECT_EQ(raised, DbRaised{});
   EXPECT_TRUE(fs::exists(folder / ":memory:"));
   EXPECT_TRUE(fs::exists(folder / "file:x?mode=memory"));
+}
+
+// What `body` raises while the working directory is one that was removed.
+DbRaised RaisedInRemovedFolder(const fs::path& removed, const std::function<void()>& body) {
+  const fs::path before = fs::current_path();
+  fs::create_directory(removed);
+  fs::current_path(removed);
+  fs::remove(removed);
+  const DbRaised raised = DbRaisedBy(body);
+  fs::current_path(before);
+  return raised;
+}
+
+constexpr const char* kNoWorkingFolder =
+    "la cartella di lavoro del programma non esiste più; avviare di nuovo il programma da un'altra "
+    "cartella";
+
+TEST(OpenSqlite, ARelativeNameIsAnErrorWhereTheWorkingDirectoryWasRemoved) {
+  const DbTemporaryFolder folder;
+  CreateSqliteDatabase(folder / "x.db", false);
+  EXPECT_EQ(
+      RaisedInRemovedFolder(folder / "tolta", [] { OpenSqlite("../x.db"); }),
+      DbError(std::string("\"../x.db\": impossibile aprire il database: ") + kNoWorkingFolder));
+}
+
+TEST(CreateSqliteDatabase, ARelativeNameIsAnErrorWhereTheWorkingDirectoryWasRemoved) {
+  const DbTemporaryFolder folder;
+  EXPECT_EQ(
+      RaisedInRemovedFolder(folder / "tolta", [] { CreateSqliteDatabase("../x.db", false); }),
+      DbError(std::string("\"../x.db\": impossibile creare il database: ") + kNoWorkingFolder));
+  EXPECT_TRUE(fs::is_empty(folder.path()));
 }
 
 TEST(OpenConnection, ANameWithQuestionMarkPercentAndAccentsIsANameLikeAnyOther) {

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_create.h"
 #include "support/db_raised.h"
 #include "support/db_temporary_folder.h"
 

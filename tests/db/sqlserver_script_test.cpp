@@ -6,8 +6,8 @@
 
 #include "base/text.h"
 #include "store/db/declared_type.h"
-#include "store/db/dialect.h"
 #include "store/db/embedded_sql.h"
+#include "store/db/sql_tokens.h"
 #include "support/db_office.h"
 
 namespace ordex {

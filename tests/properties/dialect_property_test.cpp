@@ -7,7 +7,8 @@
 #include <vector>
 
 #include "base/text.h"
-#include "store/db/dialect.h"
+#include "store/db/dialect_sqlite.h"
+#include "store/db/one_select.h"
 #include "support/office_fixture.h"
 #include "support/random_values.h"
 

@@ -10,6 +10,7 @@
 #include "state/ports.h"
 #include "store/db/db_record.h"
 #include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_create.h"
 #include "support/db_temporary_folder.h"
 
 namespace ordex {

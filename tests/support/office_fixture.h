@@ -13,6 +13,7 @@
 #include "base/error.h"
 #include "store/db/db_record.h"
 #include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_create.h"
 #include "support/fake_connection.h"
 #include "support/fake_ports.h"
 #include "support/temp_folder.h"

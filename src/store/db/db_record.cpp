@@ -8,6 +8,8 @@
 
 #include "base/error.h"
 #include "store/db/ascii.h"
+#include "store/db/fit_to_column.h"
+#include "store/db/refused_query.h"
 
 namespace ordex {
 namespace {
@@ -258,8 +260,8 @@ void DbRecord::Open(const Database& database, const SqlText& szSql, int mode) {
   Close();
   database.diagnostics.DebugszSql(szSql.text());
   if (!szSql.HoldsTogether()) {
-    throw RecordError(
-        "interrogazione rifiutata: un valore letto dalla pagina contiene un apostrofo, che ne "
+    throw RefusedQuery(
+        "un valore letto dalla pagina contiene un apostrofo, che ne "
         "cambierebbe il senso: " +
         szSql.text());
   }

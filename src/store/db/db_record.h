@@ -106,10 +106,6 @@ class DbRecord {
   std::optional<Recordset> recordset_;
 };
 
-// Brings `value` to the type of `column`: a text given to a date column is read day first (an empty
-// one is no date, so Null), a text given to a number must be a number. Errors as Recordset::Set.
-Value FitToColumn(const Value& value, const ColumnInfo& column);
-
 // Runs one statement without result rows, after handing it to the debugging hook.
 void Execute(const Database& database, std::string_view szSql);
 

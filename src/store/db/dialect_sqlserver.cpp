@@ -1,14 +1,13 @@
+#include "store/db/dialect_sqlserver.h"
+
 #include <algorithm>
+#include <cstddef>
 #include <optional>
-#include <string>
-#include <string_view>
-#include <vector>
+#include <utility>
 
 #include "base/date.h"
-#include "base/error.h"
 #include "base/text.h"
-#include "store/db/dialect.h"
-#include "store/db/sql_tokens.h"
+#include "store/db/refused_query.h"
 
 namespace ordex {
 namespace {
@@ -31,9 +30,9 @@ std::string UnseparatedDate(const DateTime& date) {
   return date == DateOnly(date) ? text.substr(0, kDay) : text;
 }
 
-class Rewriter {
+class SqlServerRewriter {
  public:
-  explicit Rewriter(const std::vector<Token>& tokens) : tokens_(tokens) {}
+  explicit SqlServerRewriter(const std::vector<Token>& tokens) : tokens_(tokens) {}
 
   std::string Rewrite() {
     for (std::size_t i = 0; i < tokens_.size(); ++i) Take(i);
@@ -76,9 +75,7 @@ class Rewriter {
   void TakeDate(const Token& token) {
     const std::optional<DateTime> date = ParseMonthFirst(Inside(token.text));
     if (!date) {
-      throw MakeError(
-          ErrorNumber::kDatabase,
-          "interrogazione rifiutata: " + std::string(token.text) + " non è una data (MM/GG/AAAA)");
+      throw RefusedQuery(std::string(token.text) + " non è una data (MM/GG/AAAA)");
     }
     out_.append("'").append(UnseparatedDate(*date)).append("'");
   }
@@ -105,7 +102,7 @@ std::string SqlServerLiteral(std::string_view text) {
 }
 
 std::string RewriteForSqlServer(const std::vector<Token>& tokens) {
-  return Rewriter(tokens).Rewrite();
+  return SqlServerRewriter(tokens).Rewrite();
 }
 
 }  // namespace ordex

@@ -1,3 +1,5 @@
+#include "store/db/fit_to_column.h"
+
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -7,7 +9,6 @@
 #include "base/error.h"
 #include "base/text.h"
 #include "store/db/ascii.h"
-#include "store/db/db_record.h"
 
 namespace ordex {
 namespace {

@@ -7,21 +7,16 @@
 
 #include "base/error.h"
 #include "base/text.h"
-#include "store/db/dialect.h"
 #include "store/db/odbc_catalog.h"
 #include "store/db/odbc_link.h"
 #include "store/db/odbc_query.h"
+#include "store/db/odbc_session.h"
 #include "store/db/odbc_statement.h"
+#include "store/db/one_select.h"
+#include "store/db/write_sql.h"
 
 namespace ordex {
 namespace {
-
-std::vector<std::string> NamesOf(std::span<const NamedValue> values) {
-  std::vector<std::string> names;
-  names.reserve(values.size());
-  for (const NamedValue& value : values) names.push_back(value.first);
-  return names;
-}
 
 RunTimeError NoIdentity(const std::string& table) {
   return MakeError(ErrorNumber::kDatabase,
@@ -200,25 +195,12 @@ class OdbcConnection final : public Connection {
   mutable bool open_ = false;  // as far as is known
 };
 
-// Each only makes sure of what a driver mostly has set already; an engine that lacks one of them
-// still serves.
-void SetUp(const std::shared_ptr<OdbcLink>& link) {
-  for (const std::string& setting : link->engine().SessionSettings()) {
-    try {
-      OdbcStatement statement(link);
-      statement.ExecuteDirect(setting);
-      statement.Finish();
-    } catch (const RunTimeError&) {
-      if (link->TakeTrouble() == OdbcLink::Trouble::kEnded) throw;
-    }
-  }
-}
-
 }  // namespace
 
 std::unique_ptr<Connection> OpenOdbc(const OdbcTarget& target) {
   auto link = std::make_shared<OdbcLink>(target);
-  SetUp(link);
+  const OdbcEngine& engine = link->engine();
+  SetUpSession(link, engine.SessionSettings(), engine.NeedsSessionSettings());
   return std::make_unique<OdbcConnection>(std::move(link));
 }
 

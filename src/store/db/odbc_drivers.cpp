@@ -1,3 +1,5 @@
+#include "store/db/odbc_drivers.h"
+
 #include <algorithm>
 #include <array>
 
@@ -21,19 +23,14 @@ constexpr const char* kWhatToInstall = "FreeTDS (pacchetto \"tdsodbc\")";
 
 std::vector<std::string> InstalledOdbcDrivers() {
   std::vector<std::string> drivers;
-  const OdbcHandle<SQL_HANDLE_ENV> environment(nullptr);
-  // NOLINTNEXTLINE: the interface takes numbers as pointers
-  const auto version = reinterpret_cast<SQLPOINTER>(std::uintptr_t{SQL_OV_ODBC3});
-  if (environment.get() == nullptr ||
-      !Succeeded(SQLSetEnvAttr(environment.get(), SQL_ATTR_ODBC_VERSION, version, 0))) {
-    return drivers;
-  }
+  const auto environment = MakeOdbcEnvironment();
+  if (!environment) return drivers;
   std::array<SQLWCHAR, 512> name{};
   std::array<SQLWCHAR, 4096> attributes{};  // not used, but some managers insist on a place
   SQLSMALLINT length = 0;
   SQLSMALLINT attributes_length = 0;
   SQLUSMALLINT direction = SQL_FETCH_FIRST;
-  while (Succeeded(SQLDriversW(environment.get(), direction, name.data(),
+  while (Succeeded(SQLDriversW(environment->get(), direction, name.data(),
                                static_cast<SQLSMALLINT>(name.size()), &length, attributes.data(),
                                static_cast<SQLSMALLINT>(attributes.size()), &attributes_length))) {
     const auto used = static_cast<std::size_t>(std::max<SQLSMALLINT>(length, 0));

@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "store/db/connection.h"
-#include "store/db/dialect.h"
 #include "store/db/odbc_error.h"
+#include "store/db/sql_tokens.h"
 
 namespace ordex {
 
@@ -33,6 +33,8 @@ class OdbcEngine {
 
   // What the session is told when it begins, each a statement of its own.
   virtual std::vector<std::string> SessionSettings() const = 0;
+  // Without one of them a session may do harm.
+  virtual bool NeedsSessionSettings() const = 0;
 
   // The number is the new row's identity where `hasIdentity`, else the rows added.
   virtual OdbcWrite Insert(const std::string& table, std::span<const std::string> columns,
@@ -76,13 +78,5 @@ std::unique_ptr<OdbcEngine> MakeOdbcEngine(std::string_view dbmsName);
 
 std::unique_ptr<OdbcEngine> MakeSqlServerEngine();
 std::unique_ptr<OdbcEngine> MakeOdbcSqliteEngine();
-
-// "[Table]", a bracket inside doubled. Both engines take it for a name and never for a text.
-std::string BracketedName(std::string_view name);
-// "INSERT INTO [T] ([A], [B]) VALUES (?, ?)", or DEFAULT VALUES.
-std::string PlainInsertSql(const std::string& table, std::span<const std::string> columns);
-// "UPDATE [T] SET [A] = ?, [B] = ? WHERE [K] = ?".
-std::string PlainUpdateSql(const std::string& table, std::span<const std::string> columns,
-                           const std::string& key);
 
 }  // namespace ordex

@@ -106,6 +106,37 @@ constexpr std::array<int, 2> kDatabaseName = {4060, 4064};
 // FreeTDS: read or write failed, the connection is dead. It may tell so by a warning alone.
 constexpr std::array<int, 5> kLost = {20004, 20006, 20017, 20020, 20047};
 
+// What to tell where an error has one of the numbers, or a state that begins so.
+struct Rule {
+  std::span<const int> numbers;
+  std::string_view state;  // empty: none tells it
+  std::string_view text;
+  bool withWords = true;  // the engine's own behind it
+};
+
+constexpr std::array<Rule, 10> kRules = {{
+    {kLockTimeOut, "", "i dati sono bloccati da un altro programma; riprovare tra poco", false},
+    {{}, "HYT", "il server del database non ha risposto in tempo; riprovare tra poco", false},
+    {kReadOnly, "", "il database è di sola lettura; avvertire chi amministra il server"},
+    {kNoRight, "42501",
+     "l'utente del database non ha i diritti necessari; chiederli a chi amministra il server"},
+    {kTruncated, "22001", "un valore è troppo lungo o troppo grande per la sua colonna"},
+    {kNoColumn, "42S22",
+     "una colonna non esiste in questo database; \"ordex-console db test\" elenca quelle che "
+     "mancano"},
+    {kNoTable, "42S02",
+     "una tabella non esiste in questo database; \"ordex-console db test\" elenca quelle che "
+     "mancano"},
+    {kConstraint, "23", "la riga non rispetta una regola della tabella"},
+    {kFull, "", "lo spazio del database è esaurito; avvertire chi amministra il server"},
+    {kConversion, "22", "un valore non si può convertire nel tipo della colonna"},
+}};
+
+bool Applies(const Rule& rule, std::span<const OdbcDiagnostic> diagnostics) {
+  return HasNative(diagnostics, rule.numbers) ||
+         (!rule.state.empty() && HasState(diagnostics, rule.state));
+}
+
 }  // namespace
 
 std::vector<OdbcDiagnostic> DiagnosticsOf(SQLSMALLINT handleType, SQLHANDLE handle) {
@@ -147,45 +178,9 @@ std::string SqlServerErrorText(std::span<const OdbcDiagnostic> diagnostics) {
     return "il database ha annullato l'operazione perché un altro programma bloccava gli stessi "
            "dati; ripetere l'operazione";
   }
-  if (HasNative(diagnostics, kLockTimeOut)) {
-    return "i dati sono bloccati da un altro programma; riprovare tra poco";
-  }
-  if (HasState(diagnostics, "HYT")) {
-    return "il server del database non ha risposto in tempo; riprovare tra poco";
-  }
-  if (HasNative(diagnostics, kReadOnly)) {
-    return WithWords("il database è di sola lettura; avvertire chi amministra il server",
-                     diagnostics);
-  }
-  if (HasNative(diagnostics, kNoRight) || HasState(diagnostics, "42501")) {
-    return WithWords(
-        "l'utente del database non ha i diritti necessari; chiederli a chi amministra il server",
-        diagnostics);
-  }
-  if (HasState(diagnostics, "22001") || HasNative(diagnostics, kTruncated)) {
-    return WithWords("un valore è troppo lungo o troppo grande per la sua colonna", diagnostics);
-  }
-  if (HasNative(diagnostics, kNoColumn) || HasState(diagnostics, "42S22")) {
-    return WithWords(
-        "una colonna non esiste in questo database; \"ordex-console db test\" elenca quelle che "
-        "mancano",
-        diagnostics);
-  }
-  if (HasNative(diagnostics, kNoTable) || HasState(diagnostics, "42S02")) {
-    return WithWords(
-        "una tabella non esiste in questo database; \"ordex-console db test\" elenca quelle che "
-        "mancano",
-        diagnostics);
-  }
-  if (HasState(diagnostics, "23") || HasNative(diagnostics, kConstraint)) {
-    return WithWords("la riga non rispetta una regola della tabella", diagnostics);
-  }
-  if (HasNative(diagnostics, kFull)) {
-    return WithWords("lo spazio del database è esaurito; avvertire chi amministra il server",
-                     diagnostics);
-  }
-  if (HasState(diagnostics, "22") || HasNative(diagnostics, kConversion)) {
-    return WithWords("un valore non si può convertire nel tipo della colonna", diagnostics);
+  for (const Rule& rule : kRules) {
+    if (!Applies(rule, diagnostics)) continue;
+    return rule.withWords ? WithWords(rule.text, diagnostics) : std::string(rule.text);
   }
   return WithWords("il database ha rifiutato l'istruzione", diagnostics);
 }

@@ -1,6 +1,8 @@
 // Handles of ODBC, released when they go out of scope.
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <utility>
 
 #include "store/db/odbc_api.h"
@@ -31,5 +33,17 @@ class OdbcHandle {
  private:
   SQLHANDLE handle_ = nullptr;
 };
+
+// An environment that speaks ODBC 3; nothing where ODBC does not work.
+inline std::optional<OdbcHandle<SQL_HANDLE_ENV>> MakeOdbcEnvironment() {
+  OdbcHandle<SQL_HANDLE_ENV> environment(nullptr);
+  // NOLINTNEXTLINE: the interface takes numbers as pointers
+  const auto version = reinterpret_cast<SQLPOINTER>(std::uintptr_t{SQL_OV_ODBC3});
+  if (environment.get() == nullptr ||
+      !Succeeded(SQLSetEnvAttr(environment.get(), SQL_ATTR_ODBC_VERSION, version, 0))) {
+    return std::nullopt;
+  }
+  return environment;
+}
 
 }  // namespace ordex

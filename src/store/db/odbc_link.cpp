@@ -19,15 +19,10 @@ void SetAttribute(SQLHDBC connection, SQLINTEGER attribute, SQLULEN value) {
   SQLSetConnectAttrW(connection, attribute, reinterpret_cast<SQLPOINTER>(std::uintptr_t{value}), 0);
 }
 
-OdbcHandle<SQL_HANDLE_ENV> MakeEnvironment() {
-  OdbcHandle<SQL_HANDLE_ENV> environment(nullptr);
-  // NOLINTNEXTLINE: the interface takes numbers as pointers
-  const auto version = reinterpret_cast<SQLPOINTER>(std::uintptr_t{SQL_OV_ODBC3});
-  if (environment.get() == nullptr ||
-      !Succeeded(SQLSetEnvAttr(environment.get(), SQL_ATTR_ODBC_VERSION, version, 0))) {
-    throw NoOdbc();
-  }
-  return environment;
+OdbcHandle<SQL_HANDLE_ENV> RequireEnvironment() {
+  auto environment = MakeOdbcEnvironment();
+  if (!environment) throw NoOdbc();
+  return std::move(*environment);
 }
 
 }  // namespace
@@ -42,7 +37,9 @@ std::vector<OdbcDiagnostic> WithoutPassword(std::span<const OdbcDiagnostic> diag
 }
 
 OdbcLink::OdbcLink(const OdbcTarget& target)
-    : environment_(MakeEnvironment()), connection_(environment_.get()), password_(target.password) {
+    : environment_(RequireEnvironment()),
+      connection_(environment_.get()),
+      password_(target.password) {
   if (connection_.get() == nullptr) throw NoOdbc();
   Connect(target);
   engine_ = MakeOdbcEngine(DbmsName());
@@ -76,10 +73,6 @@ std::string OdbcLink::DbmsName() const {
   }
   const std::size_t length = static_cast<std::size_t>(bytes) / sizeof(SQLWCHAR);
   return FromWide(name.data(), std::min(length, name.size()));
-}
-
-RunTimeError OdbcLink::Error(SQLHANDLE statement) {
-  return Error(DiagnosticsOf(SQL_HANDLE_STMT, statement));
 }
 
 RunTimeError OdbcLink::Error(std::span<const OdbcDiagnostic> diagnostics) {

@@ -28,9 +28,8 @@ class OdbcLink {
   SQLHDBC get() const { return connection_.get(); }
   const OdbcEngine& engine() const { return *engine_; }
 
-  // The error for what a statement's handle reports. Remembers what it means for an open
+  // The error for what a statement's handle reported. Remembers what it means for an open
   // transaction.
-  RunTimeError Error(SQLHANDLE statement);
   RunTimeError Error(std::span<const OdbcDiagnostic> diagnostics);
 
   enum class Trouble {

@@ -6,7 +6,7 @@
 
 #include "base/error.h"
 #include "store/db/ascii.h"
-#include "store/db/sql_tokens.h"
+#include "store/db/refused_query.h"
 #include "store/db/statement_tables.h"
 
 namespace ordex {
@@ -100,8 +100,7 @@ OdbcQuery::OdbcQuery(std::shared_ptr<OdbcCatalog> catalog, const std::vector<Tok
     columns_ = Described();
   }
   if (columns_.empty()) {
-    throw MakeError(ErrorNumber::kDatabase,
-                    "interrogazione rifiutata: l'istruzione non è una lettura");
+    throw RefusedQuery("l'istruzione non è una lettura");
   }
   columns_ = WithTables(std::move(columns_), written, *catalog_);
 }

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "store/db/connection.h"
-#include "store/db/dialect.h"
 #include "store/db/odbc_catalog.h"
 #include "store/db/odbc_statement.h"
+#include "store/db/sql_tokens.h"
 
 namespace ordex {
 

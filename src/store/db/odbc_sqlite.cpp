@@ -1,7 +1,9 @@
 // The embedded engine, reached through an ODBC driver of its own.
 #include "store/db/ascii.h"
+#include "store/db/dialect_sqlite.h"
 #include "store/db/odbc_engine.h"
 #include "store/db/sqlite_error.h"
+#include "store/db/write_sql.h"
 
 namespace ordex {
 namespace {
@@ -18,15 +20,17 @@ class OdbcSqliteEngine final : public OdbcEngine {
   std::vector<std::string> SessionSettings() const override {
     return {"PRAGMA synchronous=FULL", "PRAGMA foreign_keys=OFF"};
   }
+  // They only make sure of what mostly is so already.
+  bool NeedsSessionSettings() const override { return false; }
 
   OdbcWrite Insert(const std::string& table, std::span<const std::string> columns,
                    bool hasIdentity) const override {
-    return {PlainInsertSql(table, columns),
+    return {InsertSql(table, columns, kBrackets),
             hasIdentity ? "SELECT last_insert_rowid()" : "SELECT changes()"};
   }
   OdbcWrite Update(const std::string& table, std::span<const std::string> columns,
                    const std::string& key) const override {
-    return {PlainUpdateSql(table, columns, key), "SELECT changes()"};
+    return {UpdateSql(table, columns, key, kBrackets), "SELECT changes()"};
   }
 
   // Immediate: a reader that turns writer would be refused at once, however long it may wait.

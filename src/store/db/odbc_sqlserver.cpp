@@ -1,7 +1,8 @@
 // What only SQL Server can answer.
 #include "store/db/ascii.h"
+#include "store/db/dialect_sqlserver.h"
 #include "store/db/odbc_engine.h"
-#include "store/db/sql_tokens.h"
+#include "store/db/write_sql.h"
 
 namespace ordex {
 namespace {
@@ -48,20 +49,22 @@ class SqlServerEngine final : public OdbcEngine {
         "SET LOCK_TIMEOUT 5000",
     };
   }
+  // A text must not be cut, nor what was written be undone, in silence.
+  bool NeedsSessionSettings() const override { return true; }
 
   // SCOPE_IDENTITY, unlike @@IDENTITY, does not see the rows that a trigger adds; OUTPUT is refused
   // where a table has triggers. It holds for its own batch alone.
   OdbcWrite Insert(const std::string& table, std::span<const std::string> columns,
                    bool hasIdentity) const override {
-    return {
-        PlainInsertSql(table, columns) + (hasIdentity ? "; SELECT CAST(SCOPE_IDENTITY() AS BIGINT)"
-                                                      : "; SELECT CAST(@@ROWCOUNT AS BIGINT)"),
-        {}};
+    return {InsertSql(table, columns, kBrackets) +
+                (hasIdentity ? "; SELECT CAST(SCOPE_IDENTITY() AS BIGINT)"
+                             : "; SELECT CAST(@@ROWCOUNT AS BIGINT)"),
+            {}};
   }
 
   OdbcWrite Update(const std::string& table, std::span<const std::string> columns,
                    const std::string& key) const override {
-    return {PlainUpdateSql(table, columns, key) + "; SELECT CAST(@@ROWCOUNT AS BIGINT)", {}};
+    return {UpdateSql(table, columns, key, kBrackets) + "; SELECT CAST(@@ROWCOUNT AS BIGINT)", {}};
   }
 
   // As statements, not as the driver's manual mode: in that a statement behind a transaction that
@@ -75,7 +78,7 @@ class SqlServerEngine final : public OdbcEngine {
 
   std::string IdentitySql(const std::string& table) const override {
     return "SELECT name FROM sys.columns WHERE object_id = OBJECT_ID(" +
-           SqlServerLiteral(BracketedName(table)) + ") AND is_identity = 1";
+           SqlServerLiteral(QuotedName(table, kBrackets)) + ") AND is_identity = 1";
   }
   // "int identity"
   bool IsIdentityType(std::string_view typeName, bool /*onlyKey*/) const override {

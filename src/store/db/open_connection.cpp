@@ -6,6 +6,9 @@
 #include "base/path_text.h"
 #include "base/text.h"
 #include "store/db/odbc_connection.h"
+#include "store/db/odbc_drivers.h"
+#include "store/db/odbc_settings.h"
+#include "store/db/server_settings.h"
 #include "store/db/sqlite_connection.h"
 
 namespace ordex {

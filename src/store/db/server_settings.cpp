@@ -1,38 +1,16 @@
+#include "store/db/server_settings.h"
+
 #include <algorithm>
 #include <array>
-#include <optional>
 #include <string>
 #include <utility>
 
 #include "base/text.h"
 #include "store/db/ascii.h"
-#include "store/db/odbc_settings.h"
+#include "store/db/connection_fragments.h"
 
 namespace ordex {
 namespace {
-
-// What the program itself puts in front of and between the fragments of the settings.
-constexpr std::string_view kBeginning = "Provider=SQLNCLI.1";
-constexpr std::string_view kMiddle = "Initial Catalog=Zelmo32;";
-
-bool EndsPiece(std::string_view text) {
-  const std::size_t last = text.find_last_not_of(' ');
-  return last == std::string_view::npos || text[last] == ';';
-}
-
-// The fragments may lack the semicolon at their ends.
-std::string WithJoints(std::string_view text) {
-  std::string whole(text);
-  if (whole.starts_with(kBeginning) &&
-      !TrimLeft(whole.substr(kBeginning.size())).starts_with(';')) {
-    whole.insert(kBeginning.size(), ";");
-  }
-  const std::size_t middle = whole.find(kMiddle);
-  if (middle != std::string::npos && !EndsPiece(std::string_view(whole).substr(0, middle))) {
-    whole.insert(middle, ";");
-  }
-  return whole;
-}
 
 // "Trusted_Connection", "trusted connection": lower case, without blanks and underscores.
 std::string PlainName(std::string_view name) {
@@ -41,95 +19,78 @@ std::string PlainName(std::string_view name) {
   return plain;
 }
 
-enum class Meaning {
-  kIgnored,
-  kDriver,
-  kSource,
-  kDatabase,
-  kUser,
-  kPassword,
-  kIntegrated,
-  kNetwork,
-  kTimeOut,
-  kEncrypt,
-  kTrustCertificate,
-  kApplication,
-  kWorkstation,
-  kMars,
-  kLanguage,
-  kAttachFile,
-  kFailoverPartner,
-  kIntent,
-  kMultiSubnet,
-};
+using TextField = std::string ServerSettings::*;
+using YesNoField = bool ServerSettings::*;
 
+// Where a key's value goes; nowhere where both are null.
 struct KnownKey {
   std::string_view name;
-  Meaning meaning;
+  TextField text = nullptr;
+  YesNoField yesNo = nullptr;
 };
 
 constexpr std::array<KnownKey, 53> kKnownKeys = {{
-    {"provider", Meaning::kIgnored},
-    {"persistsecurityinfo", Meaning::kIgnored},
-    {"packetsize", Meaning::kIgnored},
-    {"autotranslate", Meaning::kIgnored},
-    {"useprocedureforprepare", Meaning::kIgnored},
-    {"datatypecompatibility", Meaning::kIgnored},
-    {"tagwithcolumncollationwhenpossible", Meaning::kIgnored},
-    {"oledbservices", Meaning::kIgnored},
-    {"driver", Meaning::kDriver},
-    {"datasource", Meaning::kSource},
-    {"server", Meaning::kSource},
-    {"address", Meaning::kSource},
-    {"addr", Meaning::kSource},
-    {"networkaddress", Meaning::kSource},
-    {"initialcatalog", Meaning::kDatabase},
-    {"database", Meaning::kDatabase},
-    {"userid", Meaning::kUser},
-    {"uid", Meaning::kUser},
-    {"user", Meaning::kUser},
-    {"username", Meaning::kUser},
-    {"password", Meaning::kPassword},
-    {"pwd", Meaning::kPassword},
-    {"integratedsecurity", Meaning::kIntegrated},
-    {"trustedconnection", Meaning::kIntegrated},
-    {"networklibrary", Meaning::kNetwork},
-    {"network", Meaning::kNetwork},
-    {"net", Meaning::kNetwork},
-    {"connecttimeout", Meaning::kTimeOut},
-    {"connectiontimeout", Meaning::kTimeOut},
-    {"logintimeout", Meaning::kTimeOut},
-    {"timeout", Meaning::kTimeOut},
-    {"encrypt", Meaning::kEncrypt},
-    {"useencryptionfordata", Meaning::kEncrypt},
-    {"trustservercertificate", Meaning::kTrustCertificate},
-    {"applicationname", Meaning::kApplication},
-    {"app", Meaning::kApplication},
-    {"workstationid", Meaning::kWorkstation},
-    {"wsid", Meaning::kWorkstation},
-    {"marsconnection", Meaning::kMars},
-    {"multipleactiveresultsets", Meaning::kMars},
-    {"mars", Meaning::kMars},
-    {"currentlanguage", Meaning::kLanguage},
-    {"language", Meaning::kLanguage},
-    {"attachdbfilename", Meaning::kAttachFile},
-    {"initialfilename", Meaning::kAttachFile},
-    {"extendedproperties", Meaning::kIgnored},
-    {"failoverpartner", Meaning::kFailoverPartner},
-    {"applicationintent", Meaning::kIntent},
-    {"multisubnetfailover", Meaning::kMultiSubnet},
-    {"generaltimeout", Meaning::kIgnored},
-    {"localeidentifier", Meaning::kIgnored},
-    {"prompt", Meaning::kIgnored},
-    {"mode", Meaning::kIgnored},
+    {"provider"},
+    {"persistsecurityinfo"},
+    {"packetsize"},
+    {"autotranslate"},
+    {"useprocedureforprepare"},
+    {"datatypecompatibility"},
+    {"tagwithcolumncollationwhenpossible"},
+    {"oledbservices"},
+    {"driver", &ServerSettings::driver},
+    {"datasource", &ServerSettings::source},
+    {"server", &ServerSettings::source},
+    {"address", &ServerSettings::source},
+    {"addr", &ServerSettings::source},
+    {"networkaddress", &ServerSettings::source},
+    {"initialcatalog", &ServerSettings::database},
+    {"database", &ServerSettings::database},
+    {"userid", &ServerSettings::user},
+    {"uid", &ServerSettings::user},
+    {"user", &ServerSettings::user},
+    {"username", &ServerSettings::user},
+    {"password", &ServerSettings::password},
+    {"pwd", &ServerSettings::password},
+    {"integratedsecurity", nullptr, &ServerSettings::integrated},
+    {"trustedconnection", nullptr, &ServerSettings::integrated},
+    {"networklibrary", &ServerSettings::network},
+    {"network", &ServerSettings::network},
+    {"net", &ServerSettings::network},
+    {"connecttimeout", &ServerSettings::timeOut},
+    {"connectiontimeout", &ServerSettings::timeOut},
+    {"logintimeout", &ServerSettings::timeOut},
+    {"timeout", &ServerSettings::timeOut},
+    {"encrypt", &ServerSettings::encrypt},
+    {"useencryptionfordata", &ServerSettings::encrypt},
+    {"trustservercertificate", &ServerSettings::trustCertificate},
+    {"applicationname", &ServerSettings::application},
+    {"app", &ServerSettings::application},
+    {"workstationid", &ServerSettings::workstation},
+    {"wsid", &ServerSettings::workstation},
+    {"marsconnection", &ServerSettings::mars},
+    {"multipleactiveresultsets", &ServerSettings::mars},
+    {"mars", &ServerSettings::mars},
+    {"currentlanguage", &ServerSettings::language},
+    {"language", &ServerSettings::language},
+    {"attachdbfilename", &ServerSettings::attachFile},
+    {"initialfilename", &ServerSettings::attachFile},
+    {"extendedproperties"},
+    {"failoverpartner", &ServerSettings::failoverPartner},
+    {"applicationintent", &ServerSettings::intent},
+    {"multisubnetfailover", &ServerSettings::multiSubnet},
+    {"generaltimeout"},
+    {"localeidentifier"},
+    {"prompt"},
+    {"mode"},
 }};
 
-std::optional<Meaning> MeaningOf(std::string_view name) {
+// Null where nothing is known of it.
+const KnownKey* Known(std::string_view name) {
   const std::string plain = PlainName(name);
-  const auto known = std::find_if(kKnownKeys.begin(), kKnownKeys.end(),
-                                  [&](const KnownKey& each) { return each.name == plain; });
-  if (known == kKnownKeys.end()) return std::nullopt;
-  return known->meaning;
+  const auto* const known = std::find_if(kKnownKeys.begin(), kKnownKeys.end(),
+                                         [&](const KnownKey& each) { return each.name == plain; });
+  return known == kKnownKeys.end() ? nullptr : known;
 }
 
 // The name of a known key that `text` ends with, behind a blank or joined to what stands before; as
@@ -138,7 +99,7 @@ std::size_t KnownNameAtEnd(std::string_view text) {
   constexpr std::size_t kShortestJoined = 8;
   for (std::size_t start = 0; start < text.size(); ++start) {
     const std::string_view name = text.substr(start);
-    if (name.front() == ' ' || !MeaningOf(name)) continue;
+    if (name.front() == ' ' || Known(name) == nullptr) continue;
     const bool behind_blank = start == 0 || text[start - 1] == ' ';
     if (behind_blank || name.size() >= kShortestJoined) return start;
   }
@@ -146,52 +107,9 @@ std::size_t KnownNameAtEnd(std::string_view text) {
 }
 
 // Passwords and names are taken as they stand, with all that they hold.
-bool MayHoldAnything(Meaning meaning) {
-  return meaning == Meaning::kPassword || meaning == Meaning::kUser ||
-         meaning == Meaning::kApplication;
-}
-
-std::string* Field(ServerSettings& settings, Meaning meaning) {
-  switch (meaning) {
-    case Meaning::kDriver:
-      return &settings.driver;
-    case Meaning::kSource:
-      return &settings.source;
-    case Meaning::kDatabase:
-      return &settings.database;
-    case Meaning::kUser:
-      return &settings.user;
-    case Meaning::kPassword:
-      return &settings.password;
-    case Meaning::kNetwork:
-      return &settings.network;
-    case Meaning::kTimeOut:
-      return &settings.timeOut;
-    case Meaning::kEncrypt:
-      return &settings.encrypt;
-    case Meaning::kTrustCertificate:
-      return &settings.trustCertificate;
-    case Meaning::kApplication:
-      return &settings.application;
-    case Meaning::kWorkstation:
-      return &settings.workstation;
-    case Meaning::kMars:
-      return &settings.mars;
-    case Meaning::kLanguage:
-      return &settings.language;
-    case Meaning::kAttachFile:
-      return &settings.attachFile;
-    case Meaning::kFailoverPartner:
-      return &settings.failoverPartner;
-    case Meaning::kIntent:
-      return &settings.intent;
-    case Meaning::kMultiSubnet:
-      return &settings.multiSubnet;
-    case Meaning::kIgnored:
-    case Meaning::kIntegrated:
-      break;
-  }
-  return nullptr;
+bool MayHoldAnything(const KnownKey& key) {
+  return key.text == &ServerSettings::password || key.text == &ServerSettings::user ||
+         key.text == &ServerSettings::application;
 }
 
 bool IsNo(std::string_view value) {
@@ -199,12 +117,12 @@ bool IsNo(std::string_view value) {
 }
 
 void Take(ServerSettings& settings, const ConnectionKey& key) {
-  const std::optional<Meaning> meaning = MeaningOf(key.name);
-  if (!meaning) {
+  const KnownKey* const known = Known(key.name);
+  if (known == nullptr) {
     settings.others.push_back(key);
     return;
   }
-  if (!key.quoted && !MayHoldAnything(*meaning)) {
+  if (!key.quoted && !MayHoldAnything(*known)) {
     // "SRV Password=x": the semicolon before a key was forgotten.
     const std::size_t equals = key.value.find('=');
     const std::string_view before = std::string_view(key.value).substr(0, equals);
@@ -216,15 +134,15 @@ void Take(ServerSettings& settings, const ConnectionKey& key) {
       return;
     }
   }
-  if (*meaning == Meaning::kIntegrated) settings.integrated = !IsNo(key.value);
-  if (std::string* field = Field(settings, *meaning)) *field = key.value;
+  if (known->yesNo != nullptr) settings.*known->yesNo = !IsNo(key.value);
+  if (known->text != nullptr) settings.*known->text = key.value;
 }
 
 }  // namespace
 
 ServerSettings ReadServerSettings(std::string_view connectionString) {
   ServerSettings settings;
-  const ConnectionString parts(WithJoints(connectionString));
+  const ConnectionString parts(WithSemicolonsAtJoints(connectionString));
   for (const ConnectionKey& key : parts.keys()) Take(settings, key);
   return settings;
 }

@@ -1,4 +1,4 @@
-// Small questions about the tokens of a SQL text, for the dialects.
+// A SQL text cut into tokens, and small questions about them.
 #pragma once
 
 #include <cstddef>
@@ -6,9 +6,30 @@
 #include <vector>
 
 #include "store/db/ascii.h"
-#include "store/db/dialect.h"
 
 namespace ordex {
+
+enum class TokenKind {
+  kBlank,      // white space
+  kComment,    // "-- …" to the end of the line, or "/* … */"
+  kWord,       // an identifier or keyword
+  kBracketed,  // an identifier between square brackets
+  kNumber,
+  kText,    // a literal between apostrophes, doubled apostrophes inside
+  kQuoted,  // a text between double quotes, doubled double quotes inside
+  kDate,    // a date between number signs
+  kSemicolon,
+  kSymbol,      // any other single character
+  kUnfinished,  // a literal or comment that the text ends in
+};
+
+struct Token {
+  TokenKind kind;
+  std::string_view text;  // with its quotes
+};
+
+// The whole text as tokens: joined again they give the text.
+std::vector<Token> Tokenize(std::string_view sql);
 
 inline constexpr std::size_t kNoToken = static_cast<std::size_t>(-1);
 

@@ -5,7 +5,8 @@
 #include <utility>
 
 #include "base/error.h"
-#include "store/db/dialect.h"
+#include "store/db/dialect_sqlite.h"
+#include "store/db/one_select.h"
 #include "store/db/sqlite_catalog.h"
 #include "store/db/sqlite_driver.h"
 #include "store/db/sqlite_error.h"
@@ -14,18 +15,10 @@
 #include "store/db/sqlite_idle_statements.h"
 #include "store/db/sqlite_query.h"
 #include "store/db/sqlite_statement.h"
+#include "store/db/write_sql.h"
 
 namespace ordex {
 namespace {
-
-std::string QuotedName(std::string_view name) {
-  std::string quoted = "\"";
-  for (const char character : name) {
-    quoted.push_back(character);
-    if (character == '"') quoted.push_back('"');
-  }
-  return quoted + "\"";
-}
 
 // The last INSERT or UPDATE, kept prepared: rows of one shape mostly come in a row.
 class KeptWrite {
@@ -39,13 +32,12 @@ class KeptWrite {
                       });
   }
 
-  void Keep(SqliteStatement statement, const std::string& table, std::span<const NamedValue> values,
+  void Keep(SqliteStatement statement, const std::string& table, std::vector<std::string> columns,
             std::string_view key) {
     statement_ = std::move(statement);
     table_ = table;
     key_ = key;
-    columns_.clear();
-    for (const NamedValue& value : values) columns_.push_back(value.first);
+    columns_ = std::move(columns);
   }
 
   // `keyValue` is the last parameter, where there is one.
@@ -64,30 +56,6 @@ class KeptWrite {
   std::string key_;
   std::vector<std::string> columns_;
 };
-
-std::string InsertSql(const std::string& table, std::span<const NamedValue> values) {
-  std::string sql = "INSERT INTO " + QuotedName(table);
-  if (values.empty()) return sql + " DEFAULT VALUES";
-  std::string places;
-  const char* separator = " (";
-  for (const NamedValue& value : values) {
-    sql.append(separator).append(QuotedName(value.first));
-    places.append(places.empty() ? "?" : ", ?");
-    separator = ", ";
-  }
-  return sql.append(") VALUES (").append(places).append(")");
-}
-
-std::string UpdateSql(const std::string& table, std::span<const NamedValue> values,
-                      const std::string& key) {
-  std::string sql = "UPDATE " + QuotedName(table);
-  const char* separator = " SET ";
-  for (const NamedValue& value : values) {
-    sql.append(separator).append(QuotedName(value.first)).append(" = ?");
-    separator = ", ";
-  }
-  return sql.append(" WHERE ").append(QuotedName(key)).append(" = ?");
-}
 
 class SqliteConnection final : public Connection {
  public:
@@ -127,10 +95,12 @@ class SqliteConnection final : public Connection {
   std::int64_t Insert(const std::string& table, std::span<const NamedValue> values) override {
     RequireWritable();
     if (!insert_.Fits(table, values, {})) {
-      SqliteStatement statement(database(), InsertSql(table, values), SQLITE_PREPARE_PERSISTENT);
-      insert_.Keep(std::move(statement), table, values, {});
-      const std::vector<ColumnInfo>& columns = catalog_->Columns(table);
-      insert_assigns_ = std::any_of(columns.begin(), columns.end(),
+      std::vector<std::string> columns = NamesOf(values);
+      SqliteStatement statement(database(), InsertSql(table, columns, kDoubleQuotes),
+                                SQLITE_PREPARE_PERSISTENT);
+      insert_.Keep(std::move(statement), table, std::move(columns), {});
+      const std::vector<ColumnInfo>& all = catalog_->Columns(table);
+      insert_assigns_ = std::any_of(all.begin(), all.end(),
                                     [](const ColumnInfo& column) { return column.identity; });
     }
     insert_.Run(values, nullptr);
@@ -142,9 +112,10 @@ class SqliteConnection final : public Connection {
     if (values.empty()) return 0;
     RequireWritable();
     if (!update_.Fits(table, values, key)) {
-      SqliteStatement statement(database(), UpdateSql(table, values, key),
+      std::vector<std::string> columns = NamesOf(values);
+      SqliteStatement statement(database(), UpdateSql(table, columns, key, kDoubleQuotes),
                                 SQLITE_PREPARE_PERSISTENT);
-      update_.Keep(std::move(statement), table, values, key);
+      update_.Keep(std::move(statement), table, std::move(columns), key);
     }
     update_.Run(values, &keyValue);
     return sqlite3_changes64(database());

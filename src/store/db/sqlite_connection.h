@@ -12,9 +12,4 @@ namespace ordex {
 // another one. Errors: the file is absent, cannot be opened or is no database.
 std::unique_ptr<Connection> OpenSqlite(const std::filesystem::path& file);
 
-// Makes a new database file with the tables of the case application and its fixed rows; with
-// `sample` also the cases and persons that fit the sample pages. Leaves no half-made file behind.
-// Errors: the file exists already, or cannot be written.
-void CreateSqliteDatabase(const std::filesystem::path& file, bool sample);
-
 }  // namespace ordex

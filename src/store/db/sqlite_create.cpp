@@ -1,3 +1,5 @@
+#include "store/db/sqlite_create.h"
+
 #include <array>
 #include <random>
 #include <string>
@@ -5,7 +7,6 @@
 
 #include "base/path_text.h"
 #include "store/db/embedded_sql.h"
-#include "store/db/sqlite_connection.h"
 #include "store/db/sqlite_error.h"
 #include "store/db/sqlite_file.h"
 

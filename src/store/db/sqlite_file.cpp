@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string_view>
 #include <system_error>
 
@@ -35,6 +36,19 @@ void RequireFile(const fs::path& file) {
   }
 }
 
+constexpr std::string_view kNoWorkingFolder =
+    "la cartella di lavoro del programma non esiste più; avviare di nuovo il programma da un'altra "
+    "cartella";
+
+// Nothing where the name is relative and the working directory was removed: a name such as
+// "../x.db" then still leads to a file.
+std::optional<fs::path> Absolute(const fs::path& file) {
+  std::error_code failure;
+  fs::path absolute = fs::absolute(file, failure);
+  if (failure) return std::nullopt;
+  return absolute;
+}
+
 struct Opened {
   SqliteHandle database;
   int code;
@@ -55,11 +69,11 @@ Opened Open(const std::string& name, int flags, int busyMilliseconds) {
 
 // The file as a URI whose every unusual byte is encoded, so that a "?" or "%" in a name is a
 // character like any other.
-std::string UnchangingUri(const fs::path& file) {
+std::string UnchangingUri(const fs::path& absolute) {
   constexpr std::string_view kPlain =
       "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_./:";
   constexpr std::string_view kHex = "0123456789ABCDEF";
-  const std::string name = GenericTextOf(fs::absolute(file));
+  const std::string name = GenericTextOf(absolute);
   std::string uri = name.starts_with('/') ? "file://" : "file:///";
   for (const char character : name) {
     if (kPlain.find(character) != std::string_view::npos) {
@@ -87,17 +101,21 @@ bool MayBeReadAsItStands(int code, const fs::path& file) {
 }  // namespace
 
 std::string SqliteFileName(const fs::path& file) {
-  return TextOf(fs::absolute(file));
+  const std::optional<fs::path> absolute = Absolute(file);
+  if (!absolute) throw MakeError(ErrorNumber::kDatabase, kNoWorkingFolder);
+  return TextOf(*absolute);
 }
 
 SqliteHandle OpenSqliteFile(const fs::path& file, int busyMilliseconds) {
   RequireFile(file);
-  Opened opened = Open(SqliteFileName(file), SQLITE_OPEN_READWRITE, busyMilliseconds);
+  const std::optional<fs::path> absolute = Absolute(file);
+  if (!absolute) throw OpenError(file, kNoWorkingFolder);
+  Opened opened = Open(TextOf(*absolute), SQLITE_OPEN_READWRITE, busyMilliseconds);
   // In a folder that we may not write to, the engine cannot make the working files that even a
   // reader needs.
   if (MayBeReadAsItStands(opened.code, file)) {
     Opened unchanging =
-        Open(UnchangingUri(file), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, busyMilliseconds);
+        Open(UnchangingUri(*absolute), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, busyMilliseconds);
     if (unchanging.code == SQLITE_OK) return std::move(unchanging.database);
   }
   if (opened.code != SQLITE_OK) {

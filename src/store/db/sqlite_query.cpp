@@ -7,6 +7,7 @@
 
 #include "base/error.h"
 #include "store/db/ascii.h"
+#include "store/db/refused_query.h"
 
 namespace ordex {
 namespace {
@@ -100,8 +101,7 @@ SqliteQuery::SqliteQuery(std::shared_ptr<SqliteCatalog> catalog, LentStatement s
       parameters_(std::move(parameters)) {
   if (sqlite3_column_count(statement_->get()) == 0 ||
       sqlite3_stmt_readonly(statement_->get()) == 0) {
-    throw MakeError(ErrorNumber::kDatabase,
-                    "interrogazione rifiutata: l'istruzione non è una lettura");
+    throw RefusedQuery("l'istruzione non è una lettura");
   }
 }
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/date.h"
-#include "store/db/dialect.h"
+#include "store/db/sql_tokens.h"
 #include "store/db/sqlite_error.h"
 
 namespace ordex {

@@ -6,8 +6,6 @@
 #include <string_view>
 #include <utility>
 
-#include "store/db/sql_tokens.h"
-
 namespace ordex {
 namespace {
 

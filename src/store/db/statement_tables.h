@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "store/db/dialect.h"
+#include "store/db/sql_tokens.h"
 
 namespace ordex {
 

@@ -12,7 +12,7 @@
 #include "base/path_text.h"
 #include "base/text.h"
 #include "base/text_file.h"
-#include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_create.h"
 #include "ui/common/clocks.h"
 #include "ui/common/exit_code.h"
 #include "ui/common/process.h"

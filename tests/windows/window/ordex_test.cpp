@@ -7,7 +7,7 @@
 
 #include "base/path_text.h"
 #include "base/text.h"
-#include "store/db/sqlite_connection.h"
+#include "store/db/sqlite_create.h"
 #include "ui/common/process.h"
 #include "ui/windows/wide_text.h"
 
