@@ -1,9 +1,11 @@
 // ordex-console: the main window on a terminal.
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <exception>
 #include <fstream>
 #include <iostream>
 #include <memory>
+#include <new>
 #include <optional>
 #include <string>
 #include <vector>
@@ -33,6 +35,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kWrongCall = 2;
+constexpr int kUnexpectedError = 4;
 
 struct Options {
   std::string dir;
@@ -99,7 +102,13 @@ int RunSession(const Options& options, const fs::path& executable, std::istream&
   Session session(
       {ProgramFolder(options.dir, executable), *settings, *clock, clipboard, options.sql}, commands,
       *events);
-  return ExitCode(session.Run());
+  try {
+    return ExitCode(session.Run());
+  } catch (const std::exception&) {
+    // Whoever reads along waits for the end.
+    events->End(EndReason::kError);
+    throw;
+  }
 }
 
 // The verbs that report on files: what keeps them from it is a wrong call.
@@ -156,6 +165,18 @@ void Declare(CLI::App& app, Options& options) {
   app.add_flag("--sql", options.sql, "anche i testi SQL");
 }
 
+// What nothing has caught on its way. No memory is asked for: it may be all gone.
+int TellUnexpected(const std::exception& error) {
+  if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr) {
+    std::cerr << "Memoria insufficiente. Chiudere altri programmi oppure usare una pagina più "
+                 "piccola, poi riprovare.\n";
+  } else {
+    std::cerr << "Errore imprevisto: " << error.what()
+              << ". Riprovare; se si ripete, riferire questo testo all'assistenza.\n";
+  }
+  return kUnexpectedError;
+}
+
 // `arguments` stand behind the program's name, `executable` is the program's file.
 int Main(std::vector<std::string> arguments, const fs::path& executable) {
   StandardStreams streams;
@@ -203,6 +224,8 @@ int Main(std::vector<std::string> arguments, const fs::path& executable) {
               << "). \"ordex-console --help\" mostra come si usa.\n";
   } catch (const WrongCall& wrong) {
     std::cerr << wrong.text << "\n";
+  } catch (const std::exception& error) {
+    return TellUnexpected(error);
   }
   return kWrongCall;
 }
