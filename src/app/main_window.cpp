@@ -135,18 +135,7 @@ bool MainWindow::ChooseCase(std::int32_t idPra) {
 
 bool MainWindow::ClickPerson(std::int32_t ID_Ana) {
   bool found = false;
-  Run([&] {
-    world_.desktop.SetMousePointer(MousePointer::kHourglass);
-    DbRecord person;
-    person.Open(*database_, "SELECT * FROM Anagrafica WHERE ID_Ana = " + std::to_string(ID_Ana),
-                kForReading);
-    found = !person.recordset().Eof();
-    if (found) {
-      frmInfoAnagrafica_.ValorizzaInfo(person, kCardOnly);
-      frmInfoAnagrafica_.ShowModal();
-    }
-    world_.desktop.SetMousePointer(MousePointer::kDefault);
-  });
+  Run([&] { found = ctlTestata1_Event10(ID_Ana); });
   return found;
 }
 
@@ -163,6 +152,22 @@ void MainWindow::ClickRow(std::size_t place) {
       lstAgendaAvv_ItemClick(window_.lstAgendaAvv, place);
     }
   });
+}
+
+// A person's link: shows the card, without its question. Returns false where there is no such
+// person.
+bool MainWindow::ctlTestata1_Event10(std::int32_t ID_Ana) {
+  world_.desktop.SetMousePointer(MousePointer::kHourglass);
+  DbRecord person;
+  person.Open(*database_, "SELECT * FROM Anagrafica WHERE ID_Ana = " + std::to_string(ID_Ana),
+              kForReading);
+  const bool found = !person.recordset().Eof();
+  if (found) {
+    frmInfoAnagrafica_.ValorizzaInfo(person, kCardOnly);
+    frmInfoAnagrafica_.ShowModal();
+  }
+  world_.desktop.SetMousePointer(MousePointer::kDefault);
+  return found;
 }
 
 void MainWindow::cmdAzione_Click() {

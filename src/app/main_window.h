@@ -105,7 +105,7 @@ class MainWindow {
   void TakeFurtherProfile();
   void TakeFurtherHistory();
   void cmdAzione_Click();
-  void ctlTestata1_Event10(DbRecord& person);
+  bool ctlTestata1_Event10(std::int32_t ID_Ana);
 
   std::filesystem::path programFolder_;
   World world_;
