@@ -10,6 +10,7 @@
 #include "base/text.h"
 #include "parse/delimiter_keys.h"
 #include "parse/mapping_files.h"
+#include "state/page.h"
 
 namespace ordex {
 namespace {
@@ -25,8 +26,8 @@ constexpr std::array<std::string_view, 6> kCutLabelKeys = {"DELPF7", "DELPF8", "
                                                            "TESTO2", "TESTO3", "TESTO4"};
 // Searched for in a text without blanks.
 constexpr std::array<std::string_view, 4> kBlanklessKeys = {"DELSF4", "DELSF5", "DELSF6", "DELSF7"};
-constexpr std::array<std::string_view, 4> kReservedFields = {"Attore", "DifAttore", "Convenuto",
-                                                             "DifConvenuto"};
+constexpr std::array<std::string_view, 4> kReservedFields = {kPlaintiffKey, kPlaintiffCounselKey,
+                                                             kDefendantKey, kDefendantCounselKey};
 constexpr std::size_t kPageKinds = 4;
 
 std::string Quoted(std::string_view text) {

@@ -16,11 +16,11 @@ struct BoxRole {
 };
 
 constexpr std::array<BoxRole, kPartyBoxes> kRoles = {{
-    {"txtAttore", "Attore", "Specificare il nome ed il cognome dell'attore."},
-    {"txtAttoreDifensore", "DifAttore",
+    {"txtAttore", kPlaintiffKey, "Specificare il nome ed il cognome dell'attore."},
+    {"txtAttoreDifensore", kPlaintiffCounselKey,
      "Specificare il nome ed il cognome del difensore dell'attore."},
-    {"txtConvenuto", "Convenuto", "Specificare il nome ed il cognome del convenuto."},
-    {"txtConvenutoDifensore", "DifConvenuto",
+    {"txtConvenuto", kDefendantKey, "Specificare il nome ed il cognome del convenuto."},
+    {"txtConvenutoDifensore", kDefendantCounselKey,
      "Specificare il nome ed il cognome del difensore del convenuto."},
 }};
 
@@ -124,7 +124,7 @@ void PartiesDialog::StorePartyText(std::string_view code, PartyBox party, PartyB
   std::string text(Trim(form_.boxes[party].text));
   const std::string_view counselName = Trim(form_.boxes[counsel].text);
   if (!form_.boxes[party].text.empty() && !counselName.empty()) {
-    text.append(" rappresentato/a da ").append(counselName);
+    text.append(kRepresentedBy).append(counselName);
   }
   Replace(page_.cDatiFasc, *field, text);
 }
