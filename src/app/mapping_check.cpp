@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <map>
+#include <string>
 #include <string_view>
 #include <utility>
 

@@ -8,6 +8,7 @@
 #include "app/ini_settings.h"
 #include "app/main_window.h"
 #include "app/mapping_check.h"
+#include "app/page_check.h"
 #include "base/error.h"
 #include "store/db/open_connection.h"
 #include "ui/console/json_events.h"

@@ -9,6 +9,7 @@
 #include "base/text_file.h"
 #include "ui/console/json_events.h"
 #include "ui/console/state_json.h"
+#include "ui/console/table.h"
 #include "ui/console/terminal.h"
 #include "ui/console/text_events.h"
 
