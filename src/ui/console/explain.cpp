@@ -16,10 +16,6 @@
 namespace ordex::console {
 namespace {
 
-constexpr int kReadToTheEnd = 0;
-constexpr int kRefused = 3;
-constexpr int kStopped = 4;
-
 Json LineJson(const PageTrial& trial, const LineReport& line) {
   Json rows = Json::array();
   for (const std::size_t place : line.reviewRows) {
@@ -77,8 +73,8 @@ void PrintText(const PageTrial& trial) {
 
 }  // namespace
 
-int Explain(const std::filesystem::path& programFolder, const std::filesystem::path& pageFile,
-            bool json) {
+ExitCode Explain(const std::filesystem::path& programFolder, const std::filesystem::path& pageFile,
+                 bool json) {
   const auto trial = TryPage(programFolder, ReadTextFile(pageFile));
   if (!trial) {
     if (json) {
@@ -86,14 +82,14 @@ int Explain(const std::filesystem::path& programFolder, const std::filesystem::p
     } else {
       TextEvents(std::cout).End(EndReason::kRefused);
     }
-    return kRefused;
+    return ExitCode::kRefused;
   }
   if (json) {
     PrintJson(*trial);
   } else {
     PrintText(*trial);
   }
-  return trial->stop ? kStopped : kReadToTheEnd;
+  return trial->stop ? ExitCode::kError : ExitCode::kWell;
 }
 
 }  // namespace ordex::console

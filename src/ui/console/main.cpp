@@ -34,9 +34,6 @@ namespace ordex::console {
 namespace fs = std::filesystem;
 namespace {
 
-constexpr int kWrongCall = 2;
-constexpr int kUnexpectedError = 4;
-
 struct Options {
   std::string dir;
   std::string settings;
@@ -56,8 +53,8 @@ struct WrongCall {
   std::string text;
 };
 
-int ExitCode(const SessionEnd& end) {
-  return end.scriptError ? kWrongCall : ExitCodeOf(end.reason);
+ExitCode ExitCodeOf(const SessionEnd& end) {
+  return end.scriptError ? ExitCode::kWrongCall : ordex::ExitCodeOf(end.reason);
 }
 
 std::unique_ptr<Clock> MakeClock(const Options& options) {
@@ -85,7 +82,7 @@ void Prompt() {
   std::cout << "ordex> " << std::flush;
 }
 
-int RunSession(const Options& options, const fs::path& executable, std::istream& typed) {
+ExitCode RunSession(const Options& options, const fs::path& executable, std::istream& typed) {
   const auto clock = MakeClock(options);
   SessionClipboard clipboard;
   PutOnClipboard(options, clipboard);
@@ -103,7 +100,7 @@ int RunSession(const Options& options, const fs::path& executable, std::istream&
       {ProgramFolder(options.dir, executable), *settings, *clock, clipboard, options.sql}, commands,
       *events);
   try {
-    return ExitCode(session.Run());
+    return ExitCodeOf(session.Run());
   } catch (const std::exception&) {
     // Whoever reads along waits for the end.
     events->End(EndReason::kError);
@@ -113,7 +110,7 @@ int RunSession(const Options& options, const fs::path& executable, std::istream&
 
 // The verbs that report on files: what keeps them from it is a wrong call.
 template <class Work>
-int OrWrongCall(Work work) {
+ExitCode OrWrongCall(Work work) {
   try {
     return work();
   } catch (const RunTimeError& error) {
@@ -123,32 +120,32 @@ int OrWrongCall(Work work) {
   }
 }
 
-int CreateDatabase(const Options& options) {
+ExitCode CreateDatabase(const Options& options) {
   return OrWrongCall([&] {
     CreateSqliteDatabase(PathOf(options.newDatabase), options.sample);
-    return 0;
+    return ExitCode::kWell;
   });
 }
 
-int PrintScript() {
+ExitCode PrintScript() {
   PrintDatabaseScript();
-  return 0;
+  return ExitCode::kWell;
 }
 
-int RunDatabaseTest(const Options& options, const fs::path& executable) {
+ExitCode RunDatabaseTest(const Options& options, const fs::path& executable) {
   return OrWrongCall([&] {
     return TestDatabase({ProgramFolder(options.dir, executable), options.settings, options.json});
   });
 }
 
-int RunCheck(const Options& options, const fs::path& executable) {
+ExitCode RunCheck(const Options& options, const fs::path& executable) {
   return OrWrongCall([&] {
     return CheckMappingFiles({ProgramFolder(options.dir, executable), PathOf(options.settings),
                               PathOf(options.pages), options.json});
   });
 }
 
-int RunExplain(const Options& options, const fs::path& executable) {
+ExitCode RunExplain(const Options& options, const fs::path& executable) {
   return OrWrongCall([&] {
     return Explain(ProgramFolder(options.dir, executable), PathOf(options.pageFile), options.json);
   });
@@ -166,7 +163,7 @@ void Declare(CLI::App& app, Options& options) {
 }
 
 // What nothing has caught on its way. No memory is asked for: it may be all gone.
-int TellUnexpected(const std::exception& error) {
+ExitCode TellUnexpected(const std::exception& error) {
   if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr) {
     std::cerr << "Memoria insufficiente. Chiudere altri programmi oppure usare una pagina più "
                  "piccola, poi riprovare.\n";
@@ -174,11 +171,11 @@ int TellUnexpected(const std::exception& error) {
     std::cerr << "Errore imprevisto: " << error.what()
               << ". Riprovare; se si ripete, riferire questo testo all'assistenza.\n";
   }
-  return kUnexpectedError;
+  return ExitCode::kError;
 }
 
 // `arguments` stand behind the program's name, `executable` is the program's file.
-int Main(std::vector<std::string> arguments, const fs::path& executable) {
+ExitCode Main(std::vector<std::string> arguments, const fs::path& executable) {
   StandardStreams streams;
   Options options;
   CLI::App app("Ordex: importa in Praxion le pagine di OrdexWeb", "ordex-console");
@@ -218,7 +215,7 @@ int Main(std::vector<std::string> arguments, const fs::path& executable) {
     return RunSession(options, executable, streams.in());
   } catch (const CLI::CallForHelp&) {
     std::cout << app.help();
-    return 0;
+    return ExitCode::kWell;
   } catch (const CLI::ParseError& error) {
     std::cerr << "Chiamata non valida (" << CauseOf(error)
               << "). \"ordex-console --help\" mostra come si usa.\n";
@@ -227,13 +224,13 @@ int Main(std::vector<std::string> arguments, const fs::path& executable) {
   } catch (const std::exception& error) {
     return TellUnexpected(error);
   }
-  return kWrongCall;
+  return ExitCode::kWrongCall;
 }
 
 }  // namespace
 }  // namespace ordex::console
 
 int main(int argc, char** argv) {
-  return ordex::console::Main(ordex::Arguments(argc, argv),
-                              ordex::ExecutableFile(argc > 0 ? argv[0] : ""));
+  return static_cast<int>(ordex::console::Main(ordex::Arguments(argc, argv),
+                                               ordex::ExecutableFile(argc > 0 ? argv[0] : "")));
 }
