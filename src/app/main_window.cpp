@@ -154,6 +154,10 @@ void MainWindow::ClickRow(std::size_t place) {
   });
 }
 
+void MainWindow::MoveOverReviewList() {
+  Run([&] { lstImport_MouseMove(window_.lstImport); });
+}
+
 // A person's link: shows the card, without its question. Returns false where there is no such
 // person.
 bool MainWindow::ctlTestata1_Event10(std::int32_t ID_Ana) {

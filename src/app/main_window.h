@@ -86,6 +86,8 @@ class MainWindow {
   // The list that is showing; columns and rows as shown, counted from 1.
   void ClickColumn(int column);
   void ClickRow(std::size_t place);
+  // The mouse has moved over the review list.
+  void MoveOverReviewList();
 
  private:
   void Run(const std::function<void()>& handler);

@@ -117,8 +117,4 @@ std::vector<KeyedTable::Entry> KeyedTable::Entries() const {
   return {entries_.begin(), entries_.end()};
 }
 
-bool ItemExists(const KeyedTable& collection, std::string_view key) {
-  return collection.Exists(key);
-}
-
 }  // namespace ordex

@@ -93,7 +93,7 @@ void ReadHistoryPlace(const KeyedTable& cDelimitatori, std::string_view clipboar
   std::string s = ReplaceAll(clipboardText, " ", "");
   LeggiPaginazioneStorico(cDelimitatori, s, paging);
   const std::string number = std::to_string(paging.iPaginaStorico);
-  paging.bPaginaNuova = !paging.cPagineStorico.Exists(number);
+  paging.bPaginaNuova = !ItemExists(paging.cPagineStorico, number);
   if (!paging.bPaginaNuova) return;
   paging.cPagineStorico.Add(number, number);
   paging.bPaginaAggiunta = true;

@@ -162,7 +162,7 @@ class JusticeOfThePeaceRules : public PageRules {
     const auto parts = Split(text, kRepresentedBy, 2);
     const std::string_view party = Trim(parts[0]);
     const std::string_view counsel = parts.size() > 1 ? Trim(parts[1]) : std::string_view{};
-    if (!page_.cDatiFasc.Exists(partyKey)) {
+    if (!ItemExists(page_.cDatiFasc, partyKey)) {
       page_.cDatiFasc.Add(std::string(party), partyKey);
       page_.cDatiFasc.Add(std::string(counsel), counselKey);
     }

@@ -26,7 +26,7 @@ constexpr std::array<BoxRole, kPartyBoxes> kRoles = {{
 
 // Stores a text under a key, in the place of what stands there.
 void Replace(KeyedTable& table, std::string_view key, const std::string& text) {
-  if (table.Exists(key)) table.Remove(key);
+  if (ItemExists(table, key)) table.Remove(key);
   table.Add(text, key);
 }
 

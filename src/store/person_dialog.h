@@ -33,6 +33,7 @@ class PersonDialog {
   void Close();
 
  private:
+  // Asks the shell for a new mail. The card gives neither subject nor body; a link carries both.
   bool InviaEmail(std::string_view address, std::string_view subject, std::string_view body);
 
   PersonCard& card_;

@@ -63,7 +63,7 @@ void RegistraDatiOrdex(const Database& database, std::int32_t idPratica, const P
                        const ReviewList& lstImport, const Clock& clock, HearingAgenda& agenda) {
   TrapErrors(database, "RegistraDatiOrdex", [&] {
     WriteProfileRow(database, idPratica, page.cDatiFasc, clock);
-    if (page.cDatiFasc.Exists(kNextHearingColumn)) agenda.ScriviUdienza(kNextHearingColumn);
+    if (ItemExists(page.cDatiFasc, kNextHearingColumn)) agenda.ScriviUdienza(kNextHearingColumn);
     if (lstImport.hasTaggedRows) WriteDeadlines(lstImport, agenda);
   });
 }

@@ -148,7 +148,12 @@ ReviewListCtrl::ReviewListCtrl(wxWindow* parent, const ReviewList& list, const A
   for (int place = 0; place < static_cast<int>(list_.columns.size()); ++place) {
     InsertColumn(place, wxString());
   }
-  SetCursor(wxCursor(wxCURSOR_HAND));
+  Bind(wxEVT_MOTION, [this, run](wxMouseEvent& event) {
+    event.Skip();
+    // Every further move would change nothing, and have all drawn anew.
+    if (list_.mousePointer == kPointerCustom) return;
+    run([](MainWindow& window) { window.MoveOverReviewList(); });
+  });
 }
 
 void ReviewListCtrl::Draw() {
@@ -165,6 +170,7 @@ void ReviewListCtrl::Draw() {
   }
   ShowRows(list_.rows.size());
   if (GetToolTipText() != Wx(list_.toolTip)) SetToolTip(Wx(list_.toolTip));
+  if (list_.mousePointer == kPointerCustom) SetCursor(wxCursor(wxCURSOR_HAND));
 }
 
 void ReviewListCtrl::DrawIcon(int place, int icon) {
