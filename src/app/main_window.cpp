@@ -167,7 +167,7 @@ bool MainWindow::ctlTestata1_Event10(std::int32_t ID_Ana) {
               kForReading);
   const bool found = !person.recordset().Eof();
   if (found) {
-    frmInfoAnagrafica_.ValorizzaInfo(person, kCardOnly);
+    frmInfoAnagrafica_.ValorizzaInfo(person, CardMode::kOnly);
     frmInfoAnagrafica_.ShowModal();
   }
   world_.desktop.SetMousePointer(MousePointer::kDefault);

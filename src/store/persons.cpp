@@ -52,7 +52,7 @@ std::int32_t FindOrAdd(const Database& database, std::string_view soggetto,
   DbRecord record;
   record.Open(database, LookupSql(name), kForChanges);
   if (record.recordset().RecordCount() >= 1) {
-    frmInfoAnagrafica.ValorizzaInfo(record, kCardWithQuestion);
+    frmInfoAnagrafica.ValorizzaInfo(record, CardMode::kWithQuestion);
     frmInfoAnagrafica.ShowModal();
   }
   if (!bCollegareAna) AddPerson(record, name);

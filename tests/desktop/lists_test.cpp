@@ -70,7 +70,7 @@ TEST_F(ListsTest, TheMouseAboveTheListIsTheCustomPointer) {
   const wxListCtrl* list = OpenWithDetails("storico-unica.txt");
   ClickRow(list, 0);
   EXPECT_EQ(State([](const Window& window) { return window.lstImport.mousePointer; }),
-            kPointerCustom);
+            Pointer::kHand);
 }
 
 TEST_F(ListsTest, ThreeClicksOnAHeaderSortUpDownAndUp) {

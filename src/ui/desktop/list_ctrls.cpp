@@ -151,7 +151,7 @@ ReviewListCtrl::ReviewListCtrl(wxWindow* parent, const ReviewList& list, const A
   Bind(wxEVT_MOTION, [this, run](wxMouseEvent& event) {
     event.Skip();
     // Every further move would change nothing, and have all drawn anew.
-    if (list_.mousePointer == kPointerCustom) return;
+    if (list_.mousePointer == Pointer::kHand) return;
     run([](MainWindow& window) { window.MoveOverReviewList(); });
   });
 }
@@ -161,7 +161,7 @@ void ReviewListCtrl::Draw() {
   for (int place = 0; place < static_cast<int>(list_.columns.size()); ++place) {
     const Column& column = list_.columns[static_cast<std::size_t>(place)];
     ShowColumn(place, column, place == kValueColumn ? Width::kFits : Width::kFixed);
-    DrawIcon(place, column.icon);
+    DrawIcon(place, static_cast<int>(column.icon));
   }
   const std::pair sorted(list_.sortKey, list_.sortOrder);
   if (sorted_ != sorted) {
@@ -170,7 +170,7 @@ void ReviewListCtrl::Draw() {
   }
   ShowRows(list_.rows.size());
   if (GetToolTipText() != Wx(list_.toolTip)) SetToolTip(Wx(list_.toolTip));
-  if (list_.mousePointer == kPointerCustom) SetCursor(wxCursor(wxCURSOR_HAND));
+  if (list_.mousePointer == Pointer::kHand) SetCursor(wxCursor(wxCURSOR_HAND));
 }
 
 void ReviewListCtrl::DrawIcon(int place, int icon) {
