@@ -6,6 +6,7 @@
 #include <span>
 
 #include "base/error.h"
+#include "base/quoted.h"
 #include "base/text.h"
 #include "store/fixed_rows.h"
 
@@ -75,10 +76,6 @@ constexpr std::array<FixedRow, 3> kFixedRows = {
     {{"Utenti", "ID_Utente", kSupervisor, "l'utente usato quando Praxion non ne indica nessuno"},
      {"Anagrafica", "ID_Ana", kNobody, "la persona che sta per \"nessuno\""},
      {"Pratica", "ID_Pra", kNoCase, "la pratica che sta per \"nessuna\""}}};
-
-std::string Quoted(std::string_view name) {
-  return "\"" + std::string(name) + "\"";
-}
 
 bool HoldsColumn(const std::vector<ColumnInfo>& columns, std::string_view name) {
   return std::any_of(columns.begin(), columns.end(), [&](const ColumnInfo& column) {

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "base/error.h"
+#include "base/quoted.h"
 #include "base/text.h"
 #include "parse/delimiter_keys.h"
 #include "parse/mapping_files.h"
@@ -31,10 +32,6 @@ constexpr std::array<std::string_view, 4> kBlanklessKeys = {"DELSF4", "DELSF5", 
 constexpr std::array<std::string_view, 4> kReservedFields = {kPlaintiffKey, kPlaintiffCounselKey,
                                                              kDefendantKey, kDefendantCounselKey};
 constexpr std::size_t kPageKinds = 4;
-
-std::string Quoted(std::string_view text) {
-  return "\"" + std::string(text) + "\"";
-}
 
 // What is left of a label when blanks, colons and letter case do not count.
 std::string Bare(std::string_view label) {
@@ -111,9 +108,7 @@ class Check {
     for (const MappingLine& line : entries) {
       if (!line.hasEquals) {
         Add(file, line.number, Severity::kError,
-            "Nella riga " + Quoted(line.text) +
-                " manca il segno \"=\": scriverla nella forma testo=chiave, oppure aggiungere il "
-                "segno \"°\" se è un commento.");
+            "Nella riga " + Quoted(line.text) + std::string(kMissingEquals));
         continue;
       }
       const auto [first, added] = seen.try_emplace(Lower(line.right), line.number);

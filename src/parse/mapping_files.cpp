@@ -32,8 +32,7 @@ void AddEntry(KeyedTable& table, const std::filesystem::path& file, const Mappin
               Values values) {
   if (!line.hasEquals) {
     throw LineError(ErrorNumber::kSubscript, file, line,
-                    "Nella riga manca il segno \"=\": scriverla nella forma testo=chiave, oppure "
-                    "aggiungere il segno \"°\" se è un commento.");
+                    "Nella riga" + std::string(kMissingEquals));
   }
   if (ItemExists(table, line.right)) {
     throw LineError(ErrorNumber::kDuplicateKey, file, line,
