@@ -201,8 +201,10 @@ class Check {
         return "alla pagina dello storico";
       case kPageAgenda:
         return "alla pagina dell'agenda";
-      default:
+      case kPageJusticeOfThePeace:
         return "alla pagina del giudice di pace";
+      default:
+        return "a una pagina che il programma non conosce";
     }
   }
 

@@ -15,8 +15,9 @@ namespace {
 
 // Each finder is one SELECT of ID_Pra, quick on its own: the beginnings of names and numbers are
 // found through an index, the middles by a walk over an index that is narrower than the table.
-// Finders are asked one after the other until there are enough hits. CROSS JOIN keeps the engines
-// from walking over all cases instead of the few persons.
+// Finders are asked one after the other until there are enough hits. CROSS JOIN keeps the
+// embedded engine from walking over all cases instead of the few persons; a server chooses its way
+// by itself.
 constexpr std::string_view kByNumber = "SELECT ID_Pra FROM Pratica WHERE NumeroRegGenerale = ?";
 constexpr std::string_view kByNumberLike =
     "SELECT ID_Pra FROM Pratica WHERE NumeroRegGenerale LIKE ? ESCAPE '!'";
