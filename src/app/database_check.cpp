@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <span>
 
 #include "base/error.h"
+#include "base/quoted.h"
 #include "base/text.h"
+#include "store/fixed_rows.h"
 
 namespace ordex {
 namespace {
@@ -65,18 +68,14 @@ constexpr std::array<NeededTable, 6> kTables = {{{"Pratica", kPratica},
 struct FixedRow {
   std::string_view table;
   std::string_view key;
-  int value;
+  std::int32_t value;
   std::string_view meaning;
 };
 
 constexpr std::array<FixedRow, 3> kFixedRows = {
-    {{"Utenti", "ID_Utente", 2, "l'utente usato quando Praxion non ne indica nessuno"},
-     {"Anagrafica", "ID_Ana", 1, "la persona che sta per \"nessuno\""},
-     {"Pratica", "ID_Pra", 1, "la pratica che sta per \"nessuna\""}}};
-
-std::string Quoted(std::string_view name) {
-  return "\"" + std::string(name) + "\"";
-}
+    {{"Utenti", "ID_Utente", kSupervisor, "l'utente usato quando Praxion non ne indica nessuno"},
+     {"Anagrafica", "ID_Ana", kNobody, "la persona che sta per \"nessuno\""},
+     {"Pratica", "ID_Pra", kNoCase, "la pratica che sta per \"nessuna\""}}};
 
 bool HoldsColumn(const std::vector<ColumnInfo>& columns, std::string_view name) {
   return std::any_of(columns.begin(), columns.end(), [&](const ColumnInfo& column) {

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/mapping_check.h"
+#include "app/finding.h"
 #include "store/db/connection.h"
 
 namespace ordex {

@@ -1,6 +1,5 @@
 #include "app/ini_settings.h"
 
-#include <cstdlib>
 #include <optional>
 #include <system_error>
 #include <vector>
@@ -100,13 +99,6 @@ void IniSettings::Save(std::string_view section, std::string_view key, std::stri
   std::error_code ignored;
   if (file_.has_parent_path()) fs::create_directories(file_.parent_path(), ignored);
   ReplaceTextFile(file_, ini.Joined());
-}
-
-fs::path UserSettingsFile() {
-  const char* config = std::getenv("XDG_CONFIG_HOME");
-  if (config != nullptr && *config != '\0') return fs::path(config) / "Zelmo32" / "settings.ini";
-  const char* home = std::getenv("HOME");
-  return fs::path(home != nullptr ? home : ".") / ".config" / "Zelmo32" / "settings.ini";
 }
 
 }  // namespace ordex

@@ -29,7 +29,4 @@ class IniSettings : public Settings {
   std::filesystem::path file_;
 };
 
-// The file of the user who runs the program.
-std::filesystem::path UserSettingsFile();
-
 }  // namespace ordex

@@ -11,7 +11,7 @@
 namespace ordex {
 
 // The page file: stands in the program folder, readable by its owner only, for as long as the
-// import takes. Goes away with this object unless it is to be kept.
+// import takes. Goes away with this object.
 class PageFileOnDisk {
  public:
   PageFileOnDisk(const std::filesystem::path& programFolder, std::string_view szNameTxt);
@@ -21,8 +21,6 @@ class PageFileOnDisk {
 
   // Error: file access.
   void Delete();
-  // The file stays where it is.
-  void Keep() { present_ = false; }
 
  private:
   std::filesystem::path path_;

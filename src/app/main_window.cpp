@@ -135,18 +135,7 @@ bool MainWindow::ChooseCase(std::int32_t idPra) {
 
 bool MainWindow::ClickPerson(std::int32_t ID_Ana) {
   bool found = false;
-  Run([&] {
-    world_.desktop.SetMousePointer(MousePointer::kHourglass);
-    DbRecord person;
-    person.Open(*database_, "SELECT * FROM Anagrafica WHERE ID_Ana = " + std::to_string(ID_Ana),
-                kForReading);
-    found = !person.recordset().Eof();
-    if (found) {
-      frmInfoAnagrafica_.ValorizzaInfo(person, kCardOnly);
-      frmInfoAnagrafica_.ShowModal();
-    }
-    world_.desktop.SetMousePointer(MousePointer::kDefault);
-  });
+  Run([&] { found = ctlTestata1_Event10(ID_Ana); });
   return found;
 }
 
@@ -165,22 +154,51 @@ void MainWindow::ClickRow(std::size_t place) {
   });
 }
 
+void MainWindow::MoveOverReviewList() {
+  Run([&] { lstImport_MouseMove(window_.lstImport); });
+}
+
+// A person's link: shows the card, without its question. Returns false where there is no such
+// person.
+bool MainWindow::ctlTestata1_Event10(std::int32_t ID_Ana) {
+  world_.desktop.SetMousePointer(MousePointer::kHourglass);
+  DbRecord person;
+  person.Open(*database_, "SELECT * FROM Anagrafica WHERE ID_Ana = " + std::to_string(ID_Ana),
+              kForReading);
+  const bool found = !person.recordset().Eof();
+  if (found) {
+    frmInfoAnagrafica_.ValorizzaInfo(person, CardMode::kOnly);
+    frmInfoAnagrafica_.ShowModal();
+  }
+  world_.desktop.SetMousePointer(MousePointer::kDefault);
+  return found;
+}
+
 void MainWindow::cmdAzione_Click() {
   HearingWriter agenda(*database_, window_.page, world_.clock);
-  const CaseRecordTask record = {*database_,
-                                 window_.page,
-                                 window_.lstImport,
-                                 window_.choice,
-                                 window_.commands.bCollegareAna,
-                                 frmInfoAnagrafica_,
-                                 world_.boxes,
-                                 world_.clock,
-                                 agenda,
-                                 world_.progress};
-  const ActionOutcome outcome = ordex::cmdAzione_Click(
-      {*database_, window_.page, window_.choice, window_.commands, ctlTestata1_, window_.status,
-       window_.lstAgendaAvv, world_.boxes, world_.desktop, [this] { dlgParti_.ShowModal(); },
-       [&record](std::int32_t idPra) { return RegistraPratica(record, idPra); }});
+  const CaseRecordTask record = {.database = *database_,
+                                 .page = window_.page,
+                                 .lstImport = window_.lstImport,
+                                 .choice = window_.choice,
+                                 .bCollegareAna = window_.commands.bCollegareAna,
+                                 .frmInfoAnagrafica = frmInfoAnagrafica_,
+                                 .boxes = world_.boxes,
+                                 .clock = world_.clock,
+                                 .agenda = agenda,
+                                 .progress = world_.progress};
+  const ActionTask task = {
+      .database = *database_,
+      .page = window_.page,
+      .choice = window_.choice,
+      .commands = window_.commands,
+      .ctlTestata1 = ctlTestata1_,
+      .status = window_.status,
+      .lstAgendaAvv = window_.lstAgendaAvv,
+      .boxes = world_.boxes,
+      .desktop = world_.desktop,
+      .ShowParties = [this] { dlgParti_.ShowModal(); },
+      .RegistraPratica = [&record](std::int32_t idPra) { return RegistraPratica(record, idPra); }};
+  const ActionOutcome outcome = ordex::cmdAzione_Click(task);
   if (outcome == ActionOutcome::kGoOn) return;
   Form_Unload();
   End(outcome == ActionOutcome::kDone ? EndReason::kDone : EndReason::kFailed);

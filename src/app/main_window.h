@@ -86,6 +86,8 @@ class MainWindow {
   // The list that is showing; columns and rows as shown, counted from 1.
   void ClickColumn(int column);
   void ClickRow(std::size_t place);
+  // The mouse has moved over the review list.
+  void MoveOverReviewList();
 
  private:
   void Run(const std::function<void()>& handler);
@@ -105,7 +107,7 @@ class MainWindow {
   void TakeFurtherProfile();
   void TakeFurtherHistory();
   void cmdAzione_Click();
-  void ctlTestata1_Event10(DbRecord& person);
+  bool ctlTestata1_Event10(std::int32_t ID_Ana);
 
   std::filesystem::path programFolder_;
   World world_;

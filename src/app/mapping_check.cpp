@@ -2,14 +2,18 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <map>
+#include <string>
 #include <string_view>
 #include <utility>
 
 #include "base/error.h"
+#include "base/quoted.h"
 #include "base/text.h"
 #include "parse/delimiter_keys.h"
 #include "parse/mapping_files.h"
+#include "state/page.h"
 
 namespace ordex {
 namespace {
@@ -25,13 +29,9 @@ constexpr std::array<std::string_view, 6> kCutLabelKeys = {"DELPF7", "DELPF8", "
                                                            "TESTO2", "TESTO3", "TESTO4"};
 // Searched for in a text without blanks.
 constexpr std::array<std::string_view, 4> kBlanklessKeys = {"DELSF4", "DELSF5", "DELSF6", "DELSF7"};
-constexpr std::array<std::string_view, 4> kReservedFields = {"Attore", "DifAttore", "Convenuto",
-                                                             "DifConvenuto"};
+constexpr std::array<std::string_view, 4> kReservedFields = {kPlaintiffKey, kPlaintiffCounselKey,
+                                                             kDefendantKey, kDefendantCounselKey};
 constexpr std::size_t kPageKinds = 4;
-
-std::string Quoted(std::string_view text) {
-  return "\"" + std::string(text) + "\"";
-}
 
 // What is left of a label when blanks, colons and letter case do not count.
 std::string Bare(std::string_view label) {
@@ -108,9 +108,7 @@ class Check {
     for (const MappingLine& line : entries) {
       if (!line.hasEquals) {
         Add(file, line.number, Severity::kError,
-            "Nella riga " + Quoted(line.text) +
-                " manca il segno \"=\": scriverla nella forma testo=chiave, oppure aggiungere il "
-                "segno \"°\" se è un commento.");
+            "Nella riga " + Quoted(line.text) + std::string(kMissingEquals));
         continue;
       }
       const auto [first, added] = seen.try_emplace(Lower(line.right), line.number);
@@ -203,8 +201,10 @@ class Check {
         return "alla pagina dello storico";
       case kPageAgenda:
         return "alla pagina dell'agenda";
-      default:
+      case kPageJusticeOfThePeace:
         return "alla pagina del giudice di pace";
+      default:
+        return "a una pagina che il programma non conosce";
     }
   }
 

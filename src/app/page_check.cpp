@@ -1,10 +1,10 @@
-// What stored pages say of the mapping files, through the program's own import.
+#include "app/page_check.h"
+
 #include <algorithm>
 #include <set>
 #include <string>
 #include <utility>
 
-#include "app/mapping_check.h"
 #include "app/page_trial.h"
 #include "base/path_text.h"
 #include "base/text.h"

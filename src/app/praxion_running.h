@@ -1,4 +1,5 @@
-// Whether the case application is running on this workstation.
+// Whether the case application is running on this workstation. No step of the program asks it yet:
+// it stands ready for one that has to know.
 #pragma once
 
 #include <string>

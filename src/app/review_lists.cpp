@@ -71,10 +71,10 @@ void OrdinaColonna(ReviewList& lstImport, int column) {
   if (sortedLast == column) {
     const bool ascending = lstImport.sortOrder == SortOrder::kAscending;
     lstImport.sortOrder = ascending ? SortOrder::kDescending : SortOrder::kAscending;
-    clicked.icon = ascending ? kIconDescending : kIconAscending;
+    clicked.icon = ascending ? ColumnIcon::kDescending : ColumnIcon::kAscending;
   } else {
-    ColumnAt(lstImport, sortedLast).icon = kIconNone;
-    clicked.icon = kIconAscending;
+    ColumnAt(lstImport, sortedLast).icon = ColumnIcon::kNone;
+    clicked.icon = ColumnIcon::kAscending;
     lstImport.tag = std::to_string(column);
     lstImport.sortOrder = SortOrder::kAscending;
   }
@@ -86,7 +86,7 @@ void lstImport_ItemClick(ReviewList& lstImport, std::size_t place) {
 }
 
 void lstImport_MouseMove(ReviewList& lstImport) {
-  lstImport.mousePointer = kPointerCustom;
+  lstImport.mousePointer = Pointer::kHand;
 }
 
 void SetWidthlstAgenda(AgendaList& lstAgendaAvv) {

@@ -116,7 +116,7 @@ void MainWindow::PrepareForKind() {
       window_.frmMain.height = kClosedHeight;
       window_.status.text = "Selezionare una pratica.";
       cmdAzione.caption = "Aggiorna";
-      cmdAzione.symbol = kSymbolUpdate;
+      cmdAzione.symbol = Symbol::kUpdate;
       cmdAzione.enabled = false;
       break;
     case kPageAgenda:
@@ -124,7 +124,7 @@ void MainWindow::PrepareForKind() {
       window_.status.picture = "Praxion";
       GestCountAgenda(window_.page.iNrEventiAgenda, window_.status);
       cmdAzione.caption = "Aggiorna";
-      cmdAzione.symbol = kSymbolUpdate;
+      cmdAzione.symbol = Symbol::kUpdate;
       break;
     default:
       break;

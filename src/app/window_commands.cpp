@@ -10,7 +10,7 @@ constexpr int kAgendaClosedHeight = 2050;
 
 void OfferCreate(Button& cmdAzione) {
   cmdAzione.caption = "Crea";
-  cmdAzione.symbol = kSymbolCreate;
+  cmdAzione.symbol = Symbol::kCreate;
 }
 
 }  // namespace

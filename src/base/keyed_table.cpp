@@ -5,14 +5,11 @@
 
 #include "base/ascii_words.h"
 #include "base/error.h"
+#include "base/quoted.h"
 #include "base/text.h"
 
 namespace ordex {
 namespace {
-
-std::string Quoted(std::string_view key) {
-  return "\"" + std::string(key) + "\"";
-}
 
 bool IsAscii(std::string_view text) {
   for (std::size_t at = 0; at + kWordSize < text.size(); at += kWordSize) {
@@ -115,10 +112,6 @@ void KeyedTable::Clear() {
 
 std::vector<KeyedTable::Entry> KeyedTable::Entries() const {
   return {entries_.begin(), entries_.end()};
-}
-
-bool ItemExists(const KeyedTable& collection, std::string_view key) {
-  return collection.Exists(key);
 }
 
 }  // namespace ordex

@@ -38,7 +38,6 @@ class KeyedTable {
 
   // Null where the key is absent. Valid until the table next changes.
   const std::string* Lookup(std::string_view key) const;
-  bool Exists(std::string_view key) const { return Lookup(key) != nullptr; }
 
   // Takes the entry out and returns its value. Error: missing key.
   std::string Take(std::string_view key);
@@ -73,6 +72,8 @@ class KeyedTable {
 };
 
 // True when the table holds an item under the key; the failed look-up raises no error.
-bool ItemExists(const KeyedTable& collection, std::string_view key);
+inline bool ItemExists(const KeyedTable& collection, std::string_view key) {
+  return collection.Lookup(key) != nullptr;
+}
 
 }  // namespace ordex

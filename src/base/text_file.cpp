@@ -10,6 +10,7 @@
 
 #include "base/error.h"
 #include "base/path_text.h"
+#include "base/quoted.h"
 #include "base/text.h"
 
 namespace ordex {
@@ -18,13 +19,9 @@ namespace {
 
 constexpr int kMostLinks = 40;
 
-std::string Quoted(const fs::path& path) {
-  return "\"" + TextOf(path) + "\"";
-}
-
 RunTimeError AccessError(const fs::path& path, std::string_view what) {
   return MakeError(ErrorNumber::kFileAccess,
-                   std::string(what) + " " + Quoted(path) +
+                   std::string(what) + " " + Quoted(TextOf(path)) +
                        ". Controllare che la cartella esista e che i diritti bastino.");
 }
 
@@ -96,7 +93,7 @@ std::string ReadTextFile(const fs::path& path) {
   std::error_code failure;
   const fs::file_status status = fs::status(path, failure);
   if (status.type() == fs::file_type::not_found) {
-    throw MakeError(ErrorNumber::kFileNotFound, Quoted(path));
+    throw MakeError(ErrorNumber::kFileNotFound, Quoted(TextOf(path)));
   }
   std::ifstream in;
   if (fs::is_directory(status) || !OpenForReading(path, in)) {

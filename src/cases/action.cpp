@@ -60,7 +60,7 @@ void OfferCreate(const ActionTask& task) {
   task.choice.frameUtenteCont.visible = true;
   task.commands.bConferma = true;
   task.commands.cmdAzione.caption = "Conferma";
-  task.commands.cmdAzione.symbol = kSymbolUpdate;
+  task.commands.cmdAzione.symbol = Symbol::kUpdate;
   task.commands.cmdAnnulla.enabled = true;
   if (task.page.pageAtOpening == kPageJusticeOfThePeace) task.ShowParties();
 }

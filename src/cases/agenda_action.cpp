@@ -6,6 +6,7 @@
 #include "base/date.h"
 #include "base/text.h"
 #include "store/db/transaction.h"
+#include "store/fixed_rows.h"
 
 namespace ordex {
 namespace {
@@ -27,7 +28,9 @@ CurrentCase FindCase(const Database& database, const AgendaRow& row) {
   szSql.Append(" where Pratica.NumeroRegGenerale = ").AppendUndoubled(row.text);
   DbRecord record;
   record.Open(database, szSql, kForReadingToo);
-  if (record.recordset().Eof()) return {1, 1, 2, "SUPERVISORE", std::string(row.sub)};
+  if (record.recordset().Eof()) {
+    return {kNoCase, kNobody, kSupervisor, std::string(kSupervisorName), std::string(row.sub)};
+  }
   return {AsInt32(record.Get("ID_Pra")), AsInt32(record.Get("ID_Cliente")),
           AsInt32(record.Get("ID_Contab")), ToText(record.Get("NomeUtente")), std::string(row.sub)};
 }

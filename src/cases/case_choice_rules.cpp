@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view kOnNumber = "sulla base del N. Registro Generale : ";
 
-void SetAction(Button& cmdAzione, std::string_view caption, int symbol) {
+void SetAction(Button& cmdAzione, std::string_view caption, Symbol symbol) {
   cmdAzione.caption = caption;
   cmdAzione.symbol = symbol;
 }
@@ -42,7 +42,7 @@ void GestCount(std::int16_t iCountPra, std::string_view szNumeroRG, StatusBar& s
   const std::string onNumber = std::string(kOnNumber).append(szNumeroRG);
   if (iCountPra == 0) {
     status = {"NoPratiche", "Nessuna pratica trovata " + onNumber};
-    SetAction(cmdAzione, "Crea", kSymbolCreate);
+    SetAction(cmdAzione, "Crea", Symbol::kCreate);
     return;
   }
   status.picture = "Praxion";
@@ -51,7 +51,7 @@ void GestCount(std::int16_t iCountPra, std::string_view szNumeroRG, StatusBar& s
   } else {
     status.text = "Sono state trovate " + std::to_string(iCountPra) + " pratiche " + onNumber;
   }
-  SetAction(cmdAzione, "Aggiorna", kSymbolUpdate);
+  SetAction(cmdAzione, "Aggiorna", Symbol::kUpdate);
 }
 
 // Below 1 the number is followed directly by the closing words.
@@ -127,7 +127,7 @@ void ctlTestata1_Event9(std::int16_t pageKind, const CaseHeader& header, StatusB
     status = {"Praxion", "Pratica selezionata : " + header.title};
   }
   cmdAzione.enabled = true;
-  SetAction(cmdAzione, "Aggiorna", kSymbolUpdate);
+  SetAction(cmdAzione, "Aggiorna", Symbol::kUpdate);
 }
 
 }  // namespace ordex

@@ -17,9 +17,9 @@ class CaseHeaderControl {
   void SetConnection(Connection& connection) { connection_ = &connection; }
   void SetUser(std::int32_t idUtente) { header_.idUtente = idUtente; }
 
-  // Prepares for a new page: no case, no search.
+  // Prepares for a new page: no case, no search. The user stays, and so does whether it is shown.
   void Reset();
-  // Clears the fields.
+  // Clears the fields: what is left is what a new page begins with.
   void Clear();
   // Shows the case with that ID_Pra; where there is none, no case is shown and it returns false.
   // Errors: of the database.

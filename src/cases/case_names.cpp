@@ -1,11 +1,10 @@
 #include "cases/case_names.h"
 
 #include "base/text.h"
+#include "store/fixed_rows.h"
 
 namespace ordex {
 namespace {
-
-constexpr std::int32_t kNobody = 1;
 
 // The person of three columns: ID_Ana, Cognome, Nome.
 std::int32_t ReadPerson(const Row& row, std::size_t column, std::string& name) {

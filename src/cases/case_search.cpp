@@ -8,14 +8,16 @@
 
 #include "base/text.h"
 #include "cases/case_names.h"
+#include "store/fixed_rows.h"
 
 namespace ordex {
 namespace {
 
 // Each finder is one SELECT of ID_Pra, quick on its own: the beginnings of names and numbers are
 // found through an index, the middles by a walk over an index that is narrower than the table.
-// Finders are asked one after the other until there are enough hits. CROSS JOIN keeps the engines
-// from walking over all cases instead of the few persons.
+// Finders are asked one after the other until there are enough hits. CROSS JOIN keeps the
+// embedded engine from walking over all cases instead of the few persons; a server chooses its way
+// by itself.
 constexpr std::string_view kByNumber = "SELECT ID_Pra FROM Pratica WHERE NumeroRegGenerale = ?";
 constexpr std::string_view kByNumberLike =
     "SELECT ID_Pra FROM Pratica WHERE NumeroRegGenerale LIKE ? ESCAPE '!'";
@@ -23,15 +25,21 @@ constexpr std::string_view kByCounterpartLike =
     "SELECT ID_Pra FROM Pratica WHERE ControCognome LIKE ? ESCAPE '!'";
 constexpr std::string_view kBySubjectLike =
     "SELECT ID_Pra FROM Pratica WHERE Oggetto LIKE ? ESCAPE '!'";
+// To be followed by whom to leave out.
 constexpr std::array<std::string_view, 2> kByPersonLike = {
     "SELECT p.ID_Pra FROM Anagrafica a CROSS JOIN Pratica p "
-    "WHERE p.ID_Cliente = a.ID_Ana AND a.Cognome LIKE ? ESCAPE '!' AND a.ID_Ana <> 1",
+    "WHERE p.ID_Cliente = a.ID_Ana AND a.Cognome LIKE ? ESCAPE '!'",
     "SELECT p.ID_Pra FROM Anagrafica a CROSS JOIN Pratica p "
-    "WHERE p.ID_Controparte = a.ID_Ana AND a.Cognome LIKE ? ESCAPE '!' AND a.ID_Ana <> 1"};
+    "WHERE p.ID_Controparte = a.ID_Ana AND a.Cognome LIKE ? ESCAPE '!'"};
 constexpr std::string_view kAndFirstName = " AND a.Nome LIKE ? ESCAPE '!'";
 
 // Middles are looked for from this length on: shorter texts stand in nearly every case.
 constexpr std::size_t kShortestMiddle = 3;
+
+std::array<std::string, 2> ByPersonLike() {
+  const std::string butNobody = " AND a.ID_Ana <> " + std::to_string(kNobody);
+  return {std::string(kByPersonLike[0]) + butNobody, std::string(kByPersonLike[1]) + butNobody};
+}
 
 std::string Escaped(std::string_view text) {
   std::string pattern;
@@ -90,10 +98,10 @@ class Search {
   // Parties whose surname, or surname and first name, begin with the text. Where the one ends and
   // the other begins is not known: every blank may stand between them.
   void AskForParties(std::string_view text) {
-    for (const std::string_view select : kByPersonLike) Ask(select, {BeginsWith(text)});
+    for (const std::string& select : byPersonLike_) Ask(select, {BeginsWith(text)});
     for (std::size_t at = text.find(' '); at != std::string_view::npos;
          at = text.find(' ', at + 1)) {
-      for (const std::string_view select : kByPersonLike) {
+      for (const std::string& select : byPersonLike_) {
         Ask(std::string(select).append(kAndFirstName),
             {BeginsWith(text.substr(0, at)), BeginsWith(text.substr(at + 1))});
       }
@@ -103,7 +111,7 @@ class Search {
 
   void AskForMiddles(std::string_view text) {
     if (ShorterThan(text, kShortestMiddle)) return;
-    for (const std::string_view select : kByPersonLike) Ask(select, {Holds(text)});
+    for (const std::string& select : byPersonLike_) Ask(select, {Holds(text)});
     Ask(kByCounterpartLike, {Holds(text)});
     Ask(kBySubjectLike, {Holds(text)});
   }
@@ -112,6 +120,7 @@ class Search {
 
  private:
   Connection& connection_;
+  std::array<std::string, 2> byPersonLike_ = ByPersonLike();
   std::vector<std::int32_t> hits_;
 };
 

@@ -7,11 +7,11 @@
 #include "base/text.h"
 #include "cases/nominativo.h"
 #include "store/db/transaction.h"
+#include "store/fixed_rows.h"
 
 namespace ordex {
 namespace {
 
-constexpr std::int32_t kNobody = 1;
 constexpr std::size_t kLongestSide = 30;  // characters of each party in `Parti`
 constexpr int kWarningDays = 20;          // a deadline's reminder starts so many days before it
 

@@ -13,15 +13,17 @@ namespace {
 
 constexpr std::size_t kLongestShown = 60;  // characters of a text in a message
 
-// Errors of the page line are absorbed: a number that cannot be read leaves its variable as it was.
+// A number that cannot be read leaves its variable as it was: the page's rows are worth having
+// without its place in the history.
 void ReadNumber(std::string_view text, std::int16_t& number) {
   try {
     number = ToInt16(text);
-  } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): prescribed
+  } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): it stays as it was
   }
 }
 
-// So does the text between the numbers, where the mapping file lacks it: the line cannot be cut.
+// Where the mapping file lacks the text between the two numbers the line cannot be cut, and both
+// stay as they were.
 void ReadPageLine(const KeyedTable& cDelimitatori, std::string_view line, HistoryPaging& paging) {
   const std::string* between = cDelimitatori.Lookup("DELSF7");
   if (between == nullptr) return;
@@ -93,7 +95,7 @@ void ReadHistoryPlace(const KeyedTable& cDelimitatori, std::string_view clipboar
   std::string s = ReplaceAll(clipboardText, " ", "");
   LeggiPaginazioneStorico(cDelimitatori, s, paging);
   const std::string number = std::to_string(paging.iPaginaStorico);
-  paging.bPaginaNuova = !paging.cPagineStorico.Exists(number);
+  paging.bPaginaNuova = !ItemExists(paging.cPagineStorico, number);
   if (!paging.bPaginaNuova) return;
   paging.cPagineStorico.Add(number, number);
   paging.bPaginaAggiunta = true;

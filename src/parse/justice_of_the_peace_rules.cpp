@@ -7,13 +7,13 @@
 #include "base/error.h"
 #include "base/text.h"
 #include "parse/page_rules.h"
+#include "state/page.h"
+#include "state/review_rows.h"
 
 namespace ordex {
 namespace {
 
-constexpr std::string_view kCounsel = " rappresentato/a da ";
 constexpr std::string_view kHistoryHeading = "--STORICO DEL FASCICOLO--";
-constexpr std::string_view kHistoryText = "Storico";
 constexpr std::string_view kNumberField = "NumeroRegGenerale";
 // What the page file itself puts behind the last line.
 constexpr std::string_view kClosingQuote = "\"";
@@ -123,10 +123,10 @@ class JusticeOfThePeaceRules : public PageRules {
     partiesAwaited_ = false;
     while (auto line = NextOfBlock()) {
       RequirePartyForms();
-      if (TakeParty(*line, {&delimiters_.plaintiff, &delimiters_.plaintiffToo}, "Attore",
-                    "DifAttore") ||
-          TakeParty(*line, {&delimiters_.defendant, &delimiters_.defendantToo}, "Convenuto",
-                    "DifConvenuto")) {
+      if (TakeParty(*line, {&delimiters_.plaintiff, &delimiters_.plaintiffToo}, kPlaintiffKey,
+                    kPlaintiffCounselKey) ||
+          TakeParty(*line, {&delimiters_.defendant, &delimiters_.defendantToo}, kDefendantKey,
+                    kDefendantCounselKey)) {
         continue;
       }
       const PageLine other{Trim(line->text), line->number};
@@ -169,10 +169,10 @@ class JusticeOfThePeaceRules : public PageRules {
 
   // The first party of a side keeps the key; every one is offered to the boxes.
   void KeepParty(std::string_view text, std::string_view partyKey, std::string_view counselKey) {
-    const auto parts = Split(text, kCounsel, 2);
+    const auto parts = Split(text, kRepresentedBy, 2);
     const std::string_view party = Trim(parts[0]);
     const std::string_view counsel = parts.size() > 1 ? Trim(parts[1]) : std::string_view{};
-    if (!page_.cDatiFasc.Exists(partyKey)) {
+    if (!ItemExists(page_.cDatiFasc, partyKey)) {
       page_.cDatiFasc.Add(std::string(party), partyKey);
       page_.cDatiFasc.Add(std::string(counsel), counselKey);
     }
@@ -201,7 +201,7 @@ class JusticeOfThePeaceRules : public PageRules {
     }
     reader_.Taken(line, "evento");
     const auto parts = Split(line.text, delimiters_.historyColumn.text(), 2);
-    sink_.WriteListView(kHistoryText, Trim(parts[0]), Trim(Part(parts, 1)), "", "");
+    sink_.WriteListView(kHistoryRow, Trim(parts[0]), Trim(Part(parts, 1)), "", "");
   }
 
   // The block's next line; nullopt at its end: an empty line, the page file's closing quote, the

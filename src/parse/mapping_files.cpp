@@ -32,10 +32,9 @@ void AddEntry(KeyedTable& table, const std::filesystem::path& file, const Mappin
               Values values) {
   if (!line.hasEquals) {
     throw LineError(ErrorNumber::kSubscript, file, line,
-                    "Nella riga manca il segno \"=\": scriverla nella forma testo=chiave, oppure "
-                    "aggiungere il segno \"°\" se è un commento.");
+                    "Nella riga" + std::string(kMissingEquals));
   }
-  if (table.Exists(line.right)) {
+  if (ItemExists(table, line.right)) {
     throw LineError(ErrorNumber::kDuplicateKey, file, line,
                     "La chiave \"" + std::string(Left(line.right, kLongestShown)) +
                         "\" sta già in una riga precedente: togliere una delle due righe.");

@@ -21,6 +21,11 @@ inline constexpr std::string_view kMapCampi = "MapCampi.txt";
 inline constexpr std::string_view kMapRestr = "MapRestr.txt";
 inline constexpr std::string_view kMapDelimitatori = "MapDelimitatori.txt";
 
+// What is wrong with a line without "=", behind the words that name the line.
+inline constexpr std::string_view kMissingEquals =
+    " manca il segno \"=\": scriverla nella forma testo=chiave, oppure aggiungere il segno "
+    "\"°\" se è un commento.";
+
 // Sets the paths of the three files.
 void LocateMappings(Mappings& mappings, const std::filesystem::path& programFolder);
 

@@ -6,6 +6,7 @@
 #include "base/error.h"
 #include "base/text.h"
 #include "parse/page_rules.h"
+#include "state/page.h"
 
 namespace ordex {
 namespace {
@@ -13,8 +14,8 @@ namespace {
 constexpr std::string_view kDeadlineTag = "Scadenza Termini";
 constexpr std::string_view kDepositLabel = "Data dep. relaz. notarile/documentazione ipocatastale";
 // The hearing labels are compared as they stand here, not through the mapping files.
-constexpr std::string_view kNextHearing = "Prossima udienza";
-constexpr std::string_view kLastHearing = "Ultima udienza";
+constexpr std::string_view kNextHearingLabel = "Prossima udienza";
+constexpr std::string_view kLastHearingLabel = "Ultima udienza";
 
 class ProfileRules : public PageRules {
  public:
@@ -124,7 +125,7 @@ class ProfileRules : public PageRules {
     std::string_view value = LabelAndValue(halves).right;
     TakeParty(label, value);
     std::string hearing;
-    if (label == kNextHearing || label == kLastHearing) {
+    if (label == kNextHearingLabel || label == kLastHearingLabel) {
       hearing = ReplaceAll(value, "(Fascicolo)", "");
       value = hearing;
     }
@@ -136,9 +137,9 @@ class ProfileRules : public PageRules {
   void TakeParty(std::string_view label, std::string_view value) {
     if (label == delimiters_.plaintiff.text() || label == delimiters_.plaintiffToo.text()) {
       // The plaintiff's counsel runs to the end of the line, the defendant's to the next separator.
-      KeepParty("Attore", "DifAttore", Split(value, delimiters_.counsel.text(), 2));
+      KeepParty(kPlaintiffKey, kPlaintiffCounselKey, Split(value, delimiters_.counsel.text(), 2));
     } else if (label == delimiters_.defendant.text() || label == delimiters_.defendantToo.text()) {
-      KeepParty("Convenuto", "DifConvenuto", Split(value, delimiters_.counsel.text()));
+      KeepParty(kDefendantKey, kDefendantCounselKey, Split(value, delimiters_.counsel.text()));
     } else if (label == delimiters_.furtherParty.text() ||
                label == delimiters_.furtherPartyToo.text()) {
       OfferParty(Split(value, delimiters_.counsel.text()));

@@ -6,12 +6,12 @@
 namespace ordex {
 
 struct Commands {
-  Button cmdAzione{"Azione", kSymbolNone, true, true,
+  Button cmdAzione{"Azione", Symbol::kNone, true, true,
                    "I dati di OrdexWeb saranno allineati con la pratica di Praxion selezionata"};
-  Button cmdAnnulla{"&Annulla", kSymbolNone, false, true, "Annulla la creazione"};
-  Button cmdNo{"&Chiudi", kSymbolNone, true, true,
+  Button cmdAnnulla{"&Annulla", Symbol::kNone, false, true, "Annulla la creazione"};
+  Button cmdNo{"&Chiudi", Symbol::kNone, true, true,
                "I dati di OrdexWeb non saranno importati in Praxion. Il programma verrà chiuso"};
-  Button cmdPulisci{"", kSymbolNone, true, true, "Pulisci campi"};
+  Button cmdPulisci{"", Symbol::kNone, true, true, "Pulisci campi"};
   ToggleButton chkDettagli{"&Dettagli ...", false, "keyExpand", "Mostra i dettagli"};
   Label HIWarning{
       "Verificare la correttezza dei dati prima di qualsiasi operazione cliccando su DETTAGLI !"};

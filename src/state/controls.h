@@ -10,14 +10,15 @@
 
 namespace ordex {
 
-// Built-in pictures of the flat buttons.
-inline constexpr int kSymbolNone = 0;
-inline constexpr int kSymbolUpdate = 1;
-inline constexpr int kSymbolCreate = 4;
+// Built-in pictures of the flat buttons, by their numbers.
+enum class Symbol { kNone = 0, kUpdate = 1, kCreate = 4 };
+
+// Mouse pointers of a control, by their numbers. The hand is the custom one.
+enum class Pointer { kDefault = 0, kArrow = 1, kHand = 99 };
 
 struct Button {
   std::string caption;  // "&" stands before the mnemonic letter
-  int symbol = kSymbolNone;
+  Symbol symbol = Symbol::kNone;
   bool enabled = true;
   bool visible = true;
   std::string toolTip;
@@ -68,15 +69,13 @@ struct ComboBox {
   }
 };
 
-// Pictures of a column header of the review list.
-inline constexpr int kIconNone = 0;
-inline constexpr int kIconAscending = 1;
-inline constexpr int kIconDescending = 2;
+// Pictures of a column header of the review list, by their numbers.
+enum class ColumnIcon { kNone = 0, kAscending = 1, kDescending = 2 };
 
 struct Column {
   std::string header;
   int width = 0;
-  int icon = kIconNone;
+  ColumnIcon icon = ColumnIcon::kNone;
 };
 
 }  // namespace ordex

@@ -9,10 +9,6 @@
 
 namespace ordex {
 
-// Pointers of a label: the arrow, or the hand of a link.
-inline constexpr int kPointerArrow = 1;
-inline constexpr int kPointerHand = 99;
-
 // frmInfoAnagrafica: a person of the registry as a short card.
 struct PersonCard {
   std::string caption = "  Info Anagrafica";
@@ -20,11 +16,11 @@ struct PersonCard {
   std::string lblInfo;
   std::string Label1;
   std::string lblInfo2;
-  int lblInfo2Pointer = kPointerArrow;
+  Pointer lblInfo2Pointer = Pointer::kArrow;
   std::string lblDomanda;
   bool questionVisible = true;
-  Button cmdSi{"&Sì", kSymbolNone, true, true, ""};
-  Button cmdNo{"&No", kSymbolNone, true, true, ""};
+  Button cmdSi{"&Sì", Symbol::kNone, true, true, ""};
+  Button cmdNo{"&No", Symbol::kNone, true, true, ""};
   bool open = false;
 };
 
@@ -49,7 +45,7 @@ struct PartiesForm {
   std::string frameConvenuto = "Convenuto";
   std::string lblConvenuto = "Cognome e nome del Convenuto";
   std::string lblConvenutoDifensore = "Cognome e nome del Difensore";
-  Button cmdOk{"&OK", kSymbolNone, true, true, ""};
+  Button cmdOk{"&OK", Symbol::kNone, true, true, ""};
   std::array<TextBox, kPartyBoxes> boxes;
   // Those that the page filled, and so must not be left blank.
   std::array<bool, kPartyBoxes> filledByPage{};

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "base/keyed_table.h"
 
@@ -17,14 +18,22 @@ enum PageKind : std::int16_t {
   kPageJusticeOfThePeace = 4,
 };
 
+// The parties of a page and their counsel, by name, among its values.
+inline constexpr std::string_view kPlaintiffKey = "Attore";
+inline constexpr std::string_view kPlaintiffCounselKey = "DifAttore";
+inline constexpr std::string_view kDefendantKey = "Convenuto";
+inline constexpr std::string_view kDefendantCounselKey = "DifConvenuto";
+// Stands between a party and its counsel where both are one text.
+inline constexpr std::string_view kRepresentedBy = " rappresentato/a da ";
+
 struct Page {
   std::int16_t iOrdexPage = kPageUnknown;
   // The kind with which the window was prepared; set once, at the end of its load.
   std::int16_t pageAtOpening = kPageUnknown;
   std::string szNameTxt;  // stem of the page file's name
   std::string szNumeroRG;
-  // The page's values by database column name, and the parties under "Attore", "DifAttore",
-  // "Convenuto", "DifConvenuto". Rebuilt by every import.
+  // The page's values by database column name, and the parties under their keys. Rebuilt by every
+  // import.
   KeyedTable cDatiFasc;
   std::int16_t iNrEventiAgenda = 0;
 };

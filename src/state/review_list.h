@@ -13,8 +13,6 @@
 namespace ordex {
 
 inline constexpr int kListWidth = 11760;
-// The custom pointer of the lists and links, a hand.
-inline constexpr int kPointerCustom = 99;
 
 enum class SortOrder { kAscending, kDescending };
 
@@ -31,7 +29,7 @@ struct ReviewList {
   std::string tag = "1";  // the column sorted last, as decimal text; must start as a number
   int sortKey = 0;
   SortOrder sortOrder = SortOrder::kAscending;
-  int mousePointer = 0;
+  Pointer mousePointer = Pointer::kDefault;
 
   // The rows whose tag is not empty, by index, in the order they were added. The collection only
   // grows, also when the rows are cleared.

@@ -19,6 +19,9 @@ struct ReviewRow {
   std::string_view tag;
 };
 
+// The text of the rows that hold an event of a justice-of-the-peace page's history.
+inline constexpr std::string_view kHistoryRow = "Storico";
+
 class ReviewRows {
  public:
   std::size_t size() const { return texts_.size(); }

@@ -4,13 +4,12 @@
 
 #include "base/number.h"
 #include "store/db/transaction.h"
+#include "store/fixed_rows.h"
 #include "store/history_events.h"
 #include "store/persons.h"
 
 namespace ordex {
 namespace {
-
-constexpr std::int64_t kNobody = 1;
 
 std::string CounsellorOfCounterpart(const CaseChoice& choice) {
   const int place = choice.cmbParti[kBoxCounterpart].index;
@@ -21,16 +20,16 @@ std::string CounsellorOfCounterpart(const CaseChoice& choice) {
 void SetCreationColumns(DbRecord& record, const CaseRecordTask& task, std::int32_t idCliente) {
   record.Set("Posizione", std::int64_t{CalcolaNumPos(task.database)});
   record.Set("ID_Cliente", std::int64_t{idCliente});
-  record.Set("ID_Controparte", kNobody);
-  record.Set("ID_Acp", kNobody);
+  record.Set("ID_Controparte", std::int64_t{kNobody});
+  record.Set("ID_Acp", std::int64_t{kNobody});
   record.Set("DataInizio", DateOnly(task.clock.Now()));
   record.Set("ID_Cla", std::int64_t{1});
   record.Set("ID_FatturareA", std::int64_t{idCliente});
   record.Set("NumPos", std::int64_t{CalcolaNumPos(task.database)});
   record.Set("ID_Riservata", std::int64_t{0});
   record.Set("Fk_Gruppo", Null{});
-  record.Set("ID_Corrispondente", kNobody);
-  record.Set("Cambio", 1936.27);
+  record.Set("ID_Corrispondente", std::int64_t{kNobody});
+  record.Set("Cambio", kLiraRate);
   record.Set("Valuta", std::string("EURO"));
   record.Set("Rilevanza", std::int64_t{100});
   record.Set("ControCognome", task.choice.cmbParti[kBoxCounterpart].Text());
@@ -79,7 +78,7 @@ void ReplaceEvents(const CaseRecordTask& task, std::int32_t idPra) {
   std::int32_t progressivo = 0;
   for (std::size_t i = 0; i < task.lstImport.rows.size(); ++i) {
     const ReviewRow row = task.lstImport.rows[i];
-    if (row.text != "Storico") continue;
+    if (row.text != kHistoryRow) continue;
     if (++progressivo == 1) {
       Execute(task.database,
               "Delete from EventiPraOrdex where ID_PraRel = " + std::to_string(idPra));

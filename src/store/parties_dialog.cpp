@@ -16,17 +16,17 @@ struct BoxRole {
 };
 
 constexpr std::array<BoxRole, kPartyBoxes> kRoles = {{
-    {"txtAttore", "Attore", "Specificare il nome ed il cognome dell'attore."},
-    {"txtAttoreDifensore", "DifAttore",
+    {"txtAttore", kPlaintiffKey, "Specificare il nome ed il cognome dell'attore."},
+    {"txtAttoreDifensore", kPlaintiffCounselKey,
      "Specificare il nome ed il cognome del difensore dell'attore."},
-    {"txtConvenuto", "Convenuto", "Specificare il nome ed il cognome del convenuto."},
-    {"txtConvenutoDifensore", "DifConvenuto",
+    {"txtConvenuto", kDefendantKey, "Specificare il nome ed il cognome del convenuto."},
+    {"txtConvenutoDifensore", kDefendantCounselKey,
      "Specificare il nome ed il cognome del difensore del convenuto."},
 }};
 
 // Stores a text under a key, in the place of what stands there.
 void Replace(KeyedTable& table, std::string_view key, const std::string& text) {
-  if (table.Exists(key)) table.Remove(key);
+  if (ItemExists(table, key)) table.Remove(key);
   table.Add(text, key);
 }
 
@@ -124,7 +124,7 @@ void PartiesDialog::StorePartyText(std::string_view code, PartyBox party, PartyB
   std::string text(Trim(form_.boxes[party].text));
   const std::string_view counselName = Trim(form_.boxes[counsel].text);
   if (!form_.boxes[party].text.empty() && !counselName.empty()) {
-    text.append(" rappresentato/a da ").append(counselName);
+    text.append(kRepresentedBy).append(counselName);
   }
   Replace(page_.cDatiFasc, *field, text);
 }

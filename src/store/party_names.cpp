@@ -44,8 +44,9 @@ bool ContainsAny(std::string_view text, std::initializer_list<std::string_view> 
 }
 
 // The next blank behind a first word that ends at `blank`, seen from character position `start`.
-// Whether the text holds one of the particles or not, the search comes to the same place, as the
-// text is trimmed already; the test is kept as the office's rule states it.
+// Whether the text holds one of the particles or not, the search comes to the same place: the first
+// blank stands behind a word of two to four letters, so there is none in front to trim away. The
+// test is kept as the office's rule states it.
 std::size_t BlankBehindParticle(std::string_view text, std::size_t start,
                                 std::initializer_list<std::string_view> particles) {
   const std::string_view searched = ContainsAny(Lower(text), particles) ? TrimLeft(text) : text;

@@ -119,13 +119,13 @@ PersonDialog::PersonDialog(PersonCard& card, bool& bCollegareAna, Dialogs& dialo
       desktop_(desktop),
       boxes_(boxes) {}
 
-void PersonDialog::ValorizzaInfo(DbRecord& record, std::int16_t mode) {
+void PersonDialog::ValorizzaInfo(DbRecord& record, CardMode mode) {
   bCollegareAna_ = false;
   card_ = PersonCard{};
   card_.height = kNormalHeight;
   card_.cmdSi.toolTip = kButtonsToolTip;
   card_.cmdNo.toolTip = kButtonsToolTip;
-  card_.questionVisible = mode == kCardWithQuestion;
+  card_.questionVisible = mode == CardMode::kWithQuestion;
   const Person person(record);
   if (Contains(Heading(person), "NULLO")) {
     card_.lblInfo = "ANAGRAFICA INESISTENTE";
@@ -135,10 +135,10 @@ void PersonDialog::ValorizzaInfo(DbRecord& record, std::int16_t mode) {
     if (!person.email.empty()) {
       card_.Label1 = kEmailLabel;
       card_.lblInfo2 = person.email;
-      card_.lblInfo2Pointer = kPointerHand;
+      card_.lblInfo2Pointer = Pointer::kHand;
     }
   }
-  if (mode == kCardWithQuestion) {
+  if (mode == CardMode::kWithQuestion) {
     card_.lblDomanda = "Sono stati trovati dati anagrafici corrispondenti a " + person.cognome +
                        " " + person.nome + "." + std::string(kLineBreak) +
                        "Collegare il cliente a questi dati ?";

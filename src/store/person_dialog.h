@@ -12,8 +12,7 @@
 namespace ordex {
 
 // What the card is shown for.
-inline constexpr std::int16_t kCardOnly = 1;
-inline constexpr std::int16_t kCardWithQuestion = 2;
+enum class CardMode : std::int16_t { kOnly = 1, kWithQuestion = 2 };
 
 class PersonDialog {
  public:
@@ -22,7 +21,7 @@ class PersonDialog {
 
   // Loads the dialog, which sets bCollegareAna to false, and fills it from the record's current
   // row. Errors: of the record.
-  void ValorizzaInfo(DbRecord& record, std::int16_t mode);
+  void ValorizzaInfo(DbRecord& record, CardMode mode);
   // Shows the dialog and waits until it is closed.
   void ShowModal();
 
@@ -33,6 +32,7 @@ class PersonDialog {
   void Close();
 
  private:
+  // Asks the shell for a new mail. The card gives neither subject nor body; a link carries both.
   bool InviaEmail(std::string_view address, std::string_view subject, std::string_view body);
 
   PersonCard& card_;

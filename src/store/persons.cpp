@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/text.h"
+#include "store/fixed_rows.h"
 #include "store/party_names.h"
 
 namespace ordex {
@@ -29,7 +30,7 @@ std::string LookupSql(const PartyName& name) {
   return szSql.append(" LOWER(Nome) = ").append(FormattaStringaSql(Lower(name.nome)));
 }
 
-// The defaults are fixed, for companies too; the exchange rate of the lira goes with every row.
+// The defaults are fixed, for companies too.
 void AddPerson(DbRecord& record, const PartyName& name) {
   Recordset& rows = record.recordset();
   rows.AddNew();
@@ -37,7 +38,7 @@ void AddPerson(DbRecord& record, const PartyName& name) {
   record.Set("Nome", name.nome);
   record.Set("IsFisicaGiuridica", !name.societa);
   record.Set("IsSostitutoImposta", name.societa);
-  record.Set("Cambio", 1936.27);
+  record.Set("Cambio", kLiraRate);
   record.Set("Valuta", std::string("EURO"));
   record.Set("StatoCivile", std::int64_t{1});
   record.Set("TipoSocieta", std::int64_t{1});
@@ -51,7 +52,7 @@ std::int32_t FindOrAdd(const Database& database, std::string_view soggetto,
   DbRecord record;
   record.Open(database, LookupSql(name), kForChanges);
   if (record.recordset().RecordCount() >= 1) {
-    frmInfoAnagrafica.ValorizzaInfo(record, kCardWithQuestion);
+    frmInfoAnagrafica.ValorizzaInfo(record, CardMode::kWithQuestion);
     frmInfoAnagrafica.ShowModal();
   }
   if (!bCollegareAna) AddPerson(record, name);

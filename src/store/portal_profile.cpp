@@ -8,21 +8,21 @@
 namespace ordex {
 namespace {
 
-constexpr std::string_view kLastHearing = "DUUd";
-constexpr std::string_view kNextHearing = "DPUd";
+constexpr std::string_view kLastHearingColumn = "DUUd";
+constexpr std::string_view kNextHearingColumn = "DPUd";
 
 // A last hearing never becomes a next one. The office's rule compares today's date with the
 // hearing as a text, and among values of mixed kinds a date is always less than a text: so the
 // hearing stays the last one, whatever its day, and the row keeps no next hearing.
 void KeepLastHearing(DbRecord& record) {
-  record.Set(kNextHearing, Null{});
+  record.Set(kNextHearingColumn, Null{});
 }
 
 void SetColumn(DbRecord& record, const std::string& column, const std::string& value) {
   record.Set(column, value);
-  if (column == kLastHearing && !value.empty()) KeepLastHearing(record);
+  if (column == kLastHearingColumn && !value.empty()) KeepLastHearing(record);
   // A row that carries a next hearing keeps no last one.
-  if (column == kNextHearing) record.Set(kLastHearing, Null{});
+  if (column == kNextHearingColumn) record.Set(kLastHearingColumn, Null{});
 }
 
 void WriteProfileRow(const Database& database, std::int32_t idPratica, const KeyedTable& cDatiFasc,
@@ -63,7 +63,7 @@ void RegistraDatiOrdex(const Database& database, std::int32_t idPratica, const P
                        const ReviewList& lstImport, const Clock& clock, HearingAgenda& agenda) {
   TrapErrors(database, "RegistraDatiOrdex", [&] {
     WriteProfileRow(database, idPratica, page.cDatiFasc, clock);
-    if (page.cDatiFasc.Exists(kNextHearing)) agenda.ScriviUdienza(kNextHearing);
+    if (ItemExists(page.cDatiFasc, kNextHearingColumn)) agenda.ScriviUdienza(kNextHearingColumn);
     if (lstImport.hasTaggedRows) WriteDeadlines(lstImport, agenda);
   });
 }

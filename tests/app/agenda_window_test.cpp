@@ -28,7 +28,7 @@ TEST(StartWithAnAgenda, IsReadyToWriteIt) {
   EXPECT_EQ(state.status.picture, "Praxion");
   EXPECT_EQ(state.status.text, "25 eventi saranno riportati nell'Agenda di Praxion.");
   EXPECT_EQ(state.commands.cmdAzione.caption, "Aggiorna");
-  EXPECT_EQ(state.commands.cmdAzione.symbol, 1);
+  EXPECT_EQ(state.commands.cmdAzione.symbol, Symbol::kUpdate);
   EXPECT_TRUE(state.commands.cmdAzione.enabled);
 }
 
@@ -84,7 +84,7 @@ TEST(AgendaOfTheWindow, AClickedRowShowsBothItsTexts) {
 TEST(AgendaOfTheWindow, AClickedHeaderSortsNothing) {
   AgendaWindow fixture;
   fixture.window.ClickColumn(1);
-  EXPECT_EQ(fixture.state().lstImport.columns[0].icon, kIconNone);
+  EXPECT_EQ(fixture.state().lstImport.columns[0].icon, ColumnIcon::kNone);
   EXPECT_EQ(fixture.state().lstAgendaAvv.rows[0].text, "1842/2025");
 }
 

@@ -29,7 +29,7 @@ TEST(StartWithAHistory, WaitsForACaseToBeChosen) {
   EXPECT_EQ(state.frmMain.height, 4320);
   EXPECT_EQ(state.status.text, "Selezionare una pratica.");
   EXPECT_EQ(state.commands.cmdAzione.caption, "Aggiorna");
-  EXPECT_EQ(state.commands.cmdAzione.symbol, 1);
+  EXPECT_EQ(state.commands.cmdAzione.symbol, Symbol::kUpdate);
   EXPECT_FALSE(state.commands.cmdAzione.enabled);
   EXPECT_EQ(state.choice.ctlTestata1.idPra, 0);
 }

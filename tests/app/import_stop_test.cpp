@@ -62,7 +62,7 @@ TEST(ImportThatStops, IsToldAndTheProgramGoesOnWithWhatWasRead) {
   const Window& state = fixture.state();
   EXPECT_EQ(state.lstImport.rows.size(), 2U);
   EXPECT_EQ(state.page.cDatiFasc.Item("Rito"), "Ordinario");
-  EXPECT_FALSE(state.page.cDatiFasc.Exists("Materia"));
+  EXPECT_FALSE(ItemExists(state.page.cDatiFasc, "Materia"));
   EXPECT_EQ(state.choice.ctlTestata1.idPra, 2);
   EXPECT_EQ(state.page.pageAtOpening, 1);
 }

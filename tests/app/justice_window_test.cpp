@@ -66,7 +66,7 @@ TEST(StartWithAJusticePage, ShowsItsOneCase) {
   EXPECT_EQ(state.status.text,
             "Trovata una sola pratica sulla base del N. Registro Generale : 4417/2025");
   EXPECT_EQ(state.commands.cmdAzione.caption, "Aggiorna");
-  EXPECT_EQ(state.commands.cmdAzione.symbol, 1);
+  EXPECT_EQ(state.commands.cmdAzione.symbol, Symbol::kUpdate);
   EXPECT_EQ(fixture.office.diagnostics.sql,
             (Texts{"Select ID_Pra from Pratica where NumeroRegGenerale = '4417/2025'"}));
   EXPECT_EQ(fixture.folder.FileCount(), 3U);
@@ -81,7 +81,7 @@ TEST(StartWithAJusticePage, OfAnUnknownCaseOffersToCreateIt) {
   EXPECT_EQ(state.status.text,
             "Nessuna pratica trovata sulla base del N. Registro Generale : 5230/2025");
   EXPECT_EQ(state.commands.cmdAzione.caption, "Crea");
-  EXPECT_EQ(state.commands.cmdAzione.symbol, 4);
+  EXPECT_EQ(state.commands.cmdAzione.symbol, Symbol::kCreate);
 }
 
 TEST(StartWithAJusticePage, PutsItsNumberIntoTheHeadersSearchBox) {

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string>
 
-#include "app/mapping_check.h"
+#include "app/page_check.h"
 #include "findings.h"
 
 namespace ordex::testing {

@@ -84,15 +84,6 @@ TEST_F(PageFileTest, GoesAwayWhenItIsDeleted) {
   EXPECT_FALSE(folder_.Holds("pagina.txt"));
 }
 
-TEST_F(PageFileTest, StaysWhereItIsToBeKept) {
-  folder_.Write("pagina.txt", "x");
-  {
-    PageFileOnDisk guard(folder_.path(), "pagina");
-    guard.Keep();
-  }
-  EXPECT_TRUE(folder_.Holds("pagina.txt"));
-}
-
 TEST_F(PageFileTest, ThatCannotBeDeletedIsAnErrorOfFileAccess) {
   std::filesystem::create_directory(folder_ / "pagina.txt");
   folder_.Write("pagina.txt/inside", "x");

@@ -121,9 +121,9 @@ TEST(ReviewList, ShowsTheValueOfTheRowWhereItIsShownNow) {
 
 TEST(ReviewList, ShowsTheCustomPointerUnderTheMouse) {
   ReviewList list;
-  EXPECT_NE(list.mousePointer, 99);
+  EXPECT_NE(list.mousePointer, Pointer::kHand);
   lstImport_MouseMove(list);
-  EXPECT_EQ(list.mousePointer, 99);
+  EXPECT_EQ(list.mousePointer, Pointer::kHand);
 }
 
 }  // namespace

@@ -29,7 +29,9 @@ Texts Shown(const ReviewList& list) {
 }
 
 std::array<int, 4> Icons(const ReviewList& list) {
-  return {list.columns[0].icon, list.columns[1].icon, list.columns[2].icon, list.columns[3].icon};
+  std::array<int, 4> icons{};
+  for (std::size_t i = 0; i < icons.size(); ++i) icons[i] = static_cast<int>(list.columns[i].icon);
+  return icons;
 }
 
 using Icons4 = std::array<int, 4>;

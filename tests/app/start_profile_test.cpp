@@ -27,7 +27,7 @@ TEST(StartWithAProfile, ShowsThePageAndItsOneCase) {
   EXPECT_EQ(state.status.text,
             "Trovata una sola pratica sulla base del N. Registro Generale : 1842/2025");
   EXPECT_EQ(state.commands.cmdAzione.caption, "Aggiorna");
-  EXPECT_EQ(state.commands.cmdAzione.symbol, 1);
+  EXPECT_EQ(state.commands.cmdAzione.symbol, Symbol::kUpdate);
   EXPECT_TRUE(fixture.boxes.shown.empty());
 }
 
@@ -81,7 +81,7 @@ TEST(StartWithAProfile, OfAnUnknownCaseOffersToCreateIt) {
   EXPECT_EQ(state.status.text,
             "Nessuna pratica trovata sulla base del N. Registro Generale : 3056/2025");
   EXPECT_EQ(state.commands.cmdAzione.caption, "Crea");
-  EXPECT_EQ(state.commands.cmdAzione.symbol, 4);
+  EXPECT_EQ(state.commands.cmdAzione.symbol, Symbol::kCreate);
 }
 
 TEST(StartWithAProfile, OfTwoCasesShowsTheFirst) {

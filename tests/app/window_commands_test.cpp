@@ -15,7 +15,7 @@ Window WindowOf(PageKind kind, int height) {
   window.frmMain.height = height;
   window.frmMain.width = 12000;
   window.status = {"old picture", "old text"};
-  window.commands.cmdAzione = {"Conferma", 1, true, true, ""};
+  window.commands.cmdAzione = {"Conferma", Symbol::kUpdate, true, true, ""};
   return window;
 }
 
@@ -41,7 +41,7 @@ TEST(DesignOfTheWindow, HasItsTexts) {
   EXPECT_EQ(commands.cmdAzione.caption, "Azione");
   EXPECT_EQ(commands.cmdAzione.toolTip,
             "I dati di OrdexWeb saranno allineati con la pratica di Praxion selezionata");
-  EXPECT_EQ(commands.cmdAzione.symbol, 0);
+  EXPECT_EQ(commands.cmdAzione.symbol, Symbol::kNone);
   EXPECT_EQ(commands.chkDettagli.caption, "&Dettagli ...");
   EXPECT_EQ(commands.chkDettagli.toolTip, "Mostra i dettagli");
   EXPECT_EQ(commands.cmdPulisci.toolTip, "Pulisci campi");
@@ -121,7 +121,7 @@ TEST(Clear, WaitsForAnotherCaseToBeChosen) {
     EXPECT_EQ(window.choice.ctlTestata1.idPra, 0);
     EXPECT_EQ(window.choice.ctlTestata1.title, "");
     EXPECT_EQ(window.commands.cmdAzione.caption, "Crea");
-    EXPECT_EQ(window.commands.cmdAzione.symbol, 4);
+    EXPECT_EQ(window.commands.cmdAzione.symbol, Symbol::kCreate);
     EXPECT_FALSE(window.commands.cmdAzione.enabled);
     EXPECT_EQ(window.status.picture, "Exclamation");
     EXPECT_EQ(window.status.text, "Selezionare una pratica.");
@@ -164,7 +164,7 @@ TEST(Cancel, TakesAPendingCreateBack) {
     EXPECT_FALSE(window.choice.frameUtenteCont.visible);
     EXPECT_FALSE(window.commands.bConferma);
     EXPECT_EQ(window.commands.cmdAzione.caption, "Crea");
-    EXPECT_EQ(window.commands.cmdAzione.symbol, 4);
+    EXPECT_EQ(window.commands.cmdAzione.symbol, Symbol::kCreate);
     EXPECT_EQ(window.commands.cmdAzione.enabled, enabled);
     EXPECT_EQ(window.status.text, "old text");
   }

@@ -40,7 +40,7 @@ TEST(ActionWithoutACase, AYesShowsTheChoicesAndWaitsForTheSecondPress) {
   EXPECT_TRUE(action.choice.frameCliente.visible);
   EXPECT_TRUE(action.choice.frameUtenteCont.visible);
   EXPECT_EQ(action.commands.cmdAzione.caption, "Conferma");
-  EXPECT_EQ(action.commands.cmdAzione.symbol, 1);
+  EXPECT_EQ(action.commands.cmdAzione.symbol, Symbol::kUpdate);
   EXPECT_TRUE(action.commands.cmdAnnulla.enabled);
   EXPECT_EQ(action.choice.cmbUtenteCont.items.size(), 2U);
   EXPECT_EQ(action.choice.lIdContab, 2);

@@ -21,7 +21,7 @@ TEST(GestCount, OneCaseOffersTheUpdate) {
   EXPECT_EQ(panel.status.text,
             "Trovata una sola pratica sulla base del N. Registro Generale : 12/2026");
   EXPECT_EQ(panel.cmdAzione.caption, "Aggiorna");
-  EXPECT_EQ(panel.cmdAzione.symbol, 1);
+  EXPECT_EQ(panel.cmdAzione.symbol, Symbol::kUpdate);
 }
 
 TEST(GestCount, NoCaseOffersToCreateOne) {
@@ -31,7 +31,7 @@ TEST(GestCount, NoCaseOffersToCreateOne) {
   EXPECT_EQ(panel.status.text,
             "Nessuna pratica trovata sulla base del N. Registro Generale : 12/2026");
   EXPECT_EQ(panel.cmdAzione.caption, "Crea");
-  EXPECT_EQ(panel.cmdAzione.symbol, 4);
+  EXPECT_EQ(panel.cmdAzione.symbol, Symbol::kCreate);
 }
 
 TEST(GestCount, SeveralCasesOfferTheUpdateAndTellHowMany) {
@@ -41,7 +41,7 @@ TEST(GestCount, SeveralCasesOfferTheUpdateAndTellHowMany) {
   EXPECT_EQ(panel.status.text,
             "Sono state trovate 2 pratiche sulla base del N. Registro Generale : 12/2026");
   EXPECT_EQ(panel.cmdAzione.caption, "Aggiorna");
-  EXPECT_EQ(panel.cmdAzione.symbol, 1);
+  EXPECT_EQ(panel.cmdAzione.symbol, Symbol::kUpdate);
 }
 
 TEST(GestCount, ACountThatIsNeitherNoneNorOneCountsAsSeveral) {
@@ -101,7 +101,7 @@ TEST(HeaderEvent9, OnAProfilePageSetsTheButtonAndLeavesTheStatusText) {
   ctlTestata1_Event9(kPageProfile, Chosen(), panel.status, panel.cmdAzione);
   EXPECT_TRUE(panel.cmdAzione.enabled);
   EXPECT_EQ(panel.cmdAzione.caption, "Aggiorna");
-  EXPECT_EQ(panel.cmdAzione.symbol, 1);
+  EXPECT_EQ(panel.cmdAzione.symbol, Symbol::kUpdate);
   EXPECT_EQ(panel.status.text, "old text");
   EXPECT_EQ(panel.status.picture, "old picture");
 }
@@ -114,7 +114,7 @@ TEST(HeaderEvent9, OnAHistoryPageAlsoTellsWhichCaseWasChosen) {
   EXPECT_EQ(panel.status.text, "Pratica selezionata : ROSSI MARIO - R.G. 12/2026");
   EXPECT_TRUE(panel.cmdAzione.enabled);
   EXPECT_EQ(panel.cmdAzione.caption, "Aggiorna");
-  EXPECT_EQ(panel.cmdAzione.symbol, 1);
+  EXPECT_EQ(panel.cmdAzione.symbol, Symbol::kUpdate);
 }
 
 }  // namespace

@@ -18,7 +18,7 @@ TEST_F(CommandsTest, ClearEmptiesTheHeaderAndWaitsForAnotherCase) {
   Open("profilo-contratto.txt");
   Click(Find<wxButton>("Pulisci campi"));
   EXPECT_EQ(Action(), "Crea");
-  EXPECT_EQ(ActionSymbol(), 4);
+  EXPECT_EQ(ActionSymbol(), Symbol::kCreate);
   EXPECT_FALSE(OnMain([b = Find<wxButton>("Crea")] { return b->IsEnabled(); }));
   EXPECT_EQ(StatusText(), "Selezionare una pratica.");
   EXPECT_EQ(StatusPicture(), "Exclamation");

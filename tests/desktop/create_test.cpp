@@ -54,7 +54,7 @@ class CreateTest : public DeskTest {
 TEST_F(CreateTest, TheFirstPressShowsTheChoicesAndAsksToConfirm) {
   AgreeToCreate();
   EXPECT_EQ(Action(), "Conferma");
-  EXPECT_EQ(ActionSymbol(), 1);
+  EXPECT_EQ(ActionSymbol(), Symbol::kUpdate);
   EXPECT_TRUE(OnMain([b = Find<wxButton>("Annulla")] { return b->IsEnabled(); }));
   EXPECT_EQ(Shown(utente_), "SUPERVISORE");
   EXPECT_EQ(Height(), 288);
@@ -177,7 +177,7 @@ TEST_F(CreateTest, CancelTakesThePendingCreateBack) {
   // The toolkit shows the button pressed for a while first.
   EXPECT_TRUE(WaitFor([] { return FrontWindow()->GetDefaultItem()->GetLabel() == "Crea"; }));
   EXPECT_EQ(Action(), "Crea");
-  EXPECT_EQ(ActionSymbol(), 4);
+  EXPECT_EQ(ActionSymbol(), Symbol::kCreate);
   EXPECT_FALSE(OnMain([b = Find<wxButton>("Annulla")] { return b->IsEnabled(); }));
   EXPECT_EQ(Find<wxChoice>("Cliente"), nullptr);
   EXPECT_THAT(NotAsState(), IsEmpty());

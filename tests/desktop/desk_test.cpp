@@ -212,14 +212,14 @@ std::string DeskTest::Action() {
   return Frame([](auto& frame) { return LabelOf(*frame.GetDefaultItem()); });
 }
 
-int DeskTest::ActionSymbol() {
+Symbol DeskTest::ActionSymbol() {
   return Frame([](desktop::MainFrame& frame) {
     const auto* button = dynamic_cast<wxButton*>(frame.GetDefaultItem());
-    for (const int symbol : {kSymbolUpdate, kSymbolCreate}) {
+    for (const Symbol symbol : {Symbol::kUpdate, Symbol::kCreate}) {
       const wxBitmap picture = desktop::SymbolPicture(symbol, 20).GetBitmapFor(button);
       if (SamePicture(button->GetBitmap(), picture)) return symbol;
     }
-    return 0;
+    return Symbol::kNone;
   });
 }
 

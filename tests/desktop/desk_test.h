@@ -73,7 +73,7 @@ class DeskTest : public ::testing::Test {
   std::string StatusPicture();
   // The caption of the action button, and of its picture: 0 none, 1 update, 4 create.
   std::string Action();
-  int ActionSymbol();
+  Symbol ActionSymbol();
   // A row of the list of that name: its cells with " | " between them; counted from 0.
   std::string Row(const std::string& list, long row);
   std::vector<std::string> RowsOf(const std::string& list);

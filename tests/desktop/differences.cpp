@@ -137,7 +137,7 @@ class Comparison {
     Same(name + ": enabled", shown->IsEnabled(), button.enabled);
     Same(name + ": tool tip", shown->GetToolTipText().utf8_string(), button.toolTip);
     // The drawn symbols themselves are compared where the test says which it must be.
-    if (button.symbol != kSymbolNone) {
+    if (button.symbol != Symbol::kNone) {
       Same(name + ": picture", shown->GetBitmap().IsOk(), true);
     }
   }
@@ -156,7 +156,7 @@ class Comparison {
     list.GetColumn(place, shown);
     const std::string name = "column " + std::to_string(place + 1);
     Same(name, shown.GetText().utf8_string(), column.header);
-    Same(name + ": picture", std::max(shown.GetImage(), -1) + 1, column.icon);
+    Same(name + ": picture", std::max(shown.GetImage(), -1) + 1, static_cast<int>(column.icon));
   }
 
   void CompareReviewList() {

@@ -66,6 +66,13 @@ class ListsTest : public DeskTest {
   }
 };
 
+TEST_F(ListsTest, TheMouseAboveTheListIsTheCustomPointer) {
+  const wxListCtrl* list = OpenWithDetails("storico-unica.txt");
+  ClickRow(list, 0);
+  EXPECT_EQ(State([](const Window& window) { return window.lstImport.mousePointer; }),
+            Pointer::kHand);
+}
+
 TEST_F(ListsTest, ThreeClicksOnAHeaderSortUpDownAndUp) {
   const wxListCtrl* list = OpenWithDetails("storico-unica.txt");
   ASSERT_EQ(Order(), "1 2 3 4 5 6 7 ");

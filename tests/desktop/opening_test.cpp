@@ -67,7 +67,7 @@ TEST_F(OpeningTest, AProfilePageOfOneCaseOpensReadyToUpdateIt) {
             "Trovata una sola pratica sulla base del N. Registro Generale : 1842/2025");
   EXPECT_EQ(StatusPicture(), "Praxion");
   EXPECT_EQ(Action(), "Aggiorna");
-  EXPECT_EQ(ActionSymbol(), 1);
+  EXPECT_EQ(ActionSymbol(), Symbol::kUpdate);
   EXPECT_TRUE(HasFocus(Find<wxButton>("Aggiorna")));
   EXPECT_FALSE(Enabled("Annulla"));
   EXPECT_TRUE(Enabled("Pulisci campi"));
@@ -85,7 +85,7 @@ TEST_F(OpeningTest, AProfilePageWithoutACaseOffersToCreateOne) {
             "Nessuna pratica trovata sulla base del N. Registro Generale : 3056/2025");
   EXPECT_EQ(StatusPicture(), "NoPratiche");
   EXPECT_EQ(Action(), "Crea");
-  EXPECT_EQ(ActionSymbol(), 4);
+  EXPECT_EQ(ActionSymbol(), Symbol::kCreate);
   EXPECT_EQ(RowsOf("lstImport"), ExpectedRows("profilo-lavoro"));
   EXPECT_THAT(NotAsState(), IsEmpty());
 }
@@ -107,7 +107,7 @@ TEST_F(OpeningTest, AHistoryPageWaitsForACaseWithItsButtonDisabled) {
   EXPECT_EQ(StatusText(), "Selezionare una pratica.");
   EXPECT_EQ(StatusPicture(), "");
   EXPECT_EQ(Action(), "Aggiorna");
-  EXPECT_EQ(ActionSymbol(), 1);
+  EXPECT_EQ(ActionSymbol(), Symbol::kUpdate);
   EXPECT_FALSE(Enabled("Aggiorna"));
   EXPECT_TRUE(HasFocus(Find<wxTextCtrl>("ctlTestata1")));
   EXPECT_EQ(RowsOf("lstImport"), ExpectedRows("storico-pagina-1"));

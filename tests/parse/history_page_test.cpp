@@ -186,7 +186,7 @@ TEST(HistoryPageTakenAlready, StaysTaken) {
   bench.paging.cPagineStorico.Add("2", "2");
   bench.paging.bPaginaNuova = false;
   EXPECT_EQ(bench.Read({kHistoryHeader, "x"}), Stop{});
-  EXPECT_TRUE(bench.paging.cPagineStorico.Exists("2"));
+  EXPECT_TRUE(ItemExists(bench.paging.cPagineStorico, "2"));
 }
 
 // --- missing delimiters -------------------------------------------------------------------------

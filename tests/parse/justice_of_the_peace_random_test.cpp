@@ -58,7 +58,7 @@ class KnownJustice {
   std::string Value() { return SomeOf(dice_, kWords); }
 
   void Store(const std::string& NomeDb, const std::string& value) {
-    if (!values.Exists(NomeDb)) return values.Add(value, NomeDb);
+    if (!ItemExists(values, NomeDb)) return values.Add(value, NomeDb);
     values.Add(values.Take(NomeDb) + "; \r\n" + value, NomeDb);
   }
 
@@ -133,7 +133,7 @@ class KnownJustice {
     Line(Padded(dice_, side.form + Padded(dice_, value)), "parte");
     rows.push_back(FieldRow(side.NomeDb, side.form, value));
     if (*side.NomeDb != '\0') Store(side.NomeDb, value);
-    if (!values.Exists(side.party)) {
+    if (!ItemExists(values, side.party)) {
       values.Add(party, side.party);
       values.Add(counsel, side.counsel);
     }

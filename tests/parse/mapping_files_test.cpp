@@ -61,7 +61,7 @@ TEST_F(MappingFiles, BlanksAndTabsAroundTheEqualsSignBelongToTheTexts) {
   Delimiters(" - Avv. =DELPF3\n=  vuota\n\t=\tscheda\n");
   EXPECT_EQ(ValuesOf(mappings_.cDelimitatori),
             (NamedValues{{"DELPF3", " - Avv. "}, {"  vuota", ""}, {"\tscheda", "\t"}}));
-  EXPECT_FALSE(mappings_.cDelimitatori.Exists("vuota"));
+  EXPECT_FALSE(ItemExists(mappings_.cDelimitatori, "vuota"));
 }
 
 TEST_F(MappingFiles, ALineWithADegreeSignAnywhereIsIgnoredAsAWhole) {

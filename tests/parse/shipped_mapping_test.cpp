@@ -40,7 +40,7 @@ TEST_F(ShippedMapping, HasEveryDelimiterThatThePageRulesAskFor) {
       "DELAV1",   "DELAV2",   "DELAV3",   "DELAV4",   "DELAV5",   "DELAV6",  "DELGDP1",
       "DELGDP2",  "DELGDP3",  "DELGDP4",  "DELGDP5",  "DELGDP6",  "DELGDP8", "DELGDP9",
       "DELGDP10", "DELGDP11", "DELGDP12", "DELGDP13", "DELGDP14", "DELGDP15"};
-  for (const std::string& key : keys) EXPECT_TRUE(mappings_.cDelimitatori.Exists(key)) << key;
+  for (const std::string& key : keys) EXPECT_TRUE(ItemExists(mappings_.cDelimitatori, key)) << key;
   EXPECT_EQ(mappings_.cDelimitatori.Count(), keys.size());
 }
 
@@ -50,7 +50,7 @@ TEST_F(ShippedMapping, MapsTheCaseNumbersDelimiterToTheRegisterNumber) {
 
 TEST_F(ShippedMapping, MapsEveryPartyLabel) {
   for (const char* key : {"DELPF7", "DELPF8", "TESTO1", "TESTO2", "TESTO3", "TESTO4"}) {
-    EXPECT_TRUE(mappings_.cOrdexMap.Exists(mappings_.cDelimitatori.Item(key))) << key;
+    EXPECT_TRUE(ItemExists(mappings_.cOrdexMap, mappings_.cDelimitatori.Item(key))) << key;
   }
 }
 

@@ -134,7 +134,7 @@ TEST(PersonCard, ShowsAnEmailAddressAsALink) {
   person.Fill(4);
   EXPECT_EQ(person.card.Label1, "E-mail :  ");
   EXPECT_EQ(person.card.lblInfo2, "luca.damico@posta.example");
-  EXPECT_EQ(person.card.lblInfo2Pointer, 99);
+  EXPECT_EQ(person.card.lblInfo2Pointer, Pointer::kHand);
 }
 
 TEST(PersonCard, WithoutAnEmailAddressHasAnEmptyLabelAndTheArrow) {
@@ -143,7 +143,7 @@ TEST(PersonCard, WithoutAnEmailAddressHasAnEmptyLabelAndTheArrow) {
   person.Fill(6);
   EXPECT_EQ(person.card.Label1, "");
   EXPECT_EQ(person.card.lblInfo2, "");
-  EXPECT_EQ(person.card.lblInfo2Pointer, 1);
+  EXPECT_EQ(person.card.lblInfo2Pointer, Pointer::kArrow);
 }
 
 }  // namespace

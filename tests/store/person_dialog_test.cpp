@@ -13,7 +13,7 @@ using Texts = std::vector<std::string>;
 
 TEST(PersonDialog, InModeTwoAsksWhetherToLinkTheClient) {
   PersonFixture person(Office::Data::kSample);
-  person.Fill(4, kCardWithQuestion);
+  person.Fill(4, CardMode::kWithQuestion);
   EXPECT_EQ(person.card.lblDomanda,
             "Sono stati trovati dati anagrafici corrispondenti a D'AMICO LUCA.\r\n"
             "Collegare il cliente a questi dati ?");
@@ -22,7 +22,7 @@ TEST(PersonDialog, InModeTwoAsksWhetherToLinkTheClient) {
 
 TEST(PersonDialog, AsksAlsoAboutARowWhoseNameHoldsNullo) {
   PersonFixture person;
-  person.Fill(1, kCardWithQuestion);
+  person.Fill(1, CardMode::kWithQuestion);
   EXPECT_EQ(person.card.lblDomanda,
             "Sono stati trovati dati anagrafici corrispondenti a NULLO .\r\n"
             "Collegare il cliente a questi dati ?");
@@ -30,8 +30,8 @@ TEST(PersonDialog, AsksAlsoAboutARowWhoseNameHoldsNullo) {
 
 TEST(PersonDialog, InModeOneHidesTheQuestionAndKeepsTheButtons) {
   PersonFixture person(Office::Data::kSample);
-  person.Fill(4, kCardWithQuestion);
-  person.Fill(6, kCardOnly);
+  person.Fill(4, CardMode::kWithQuestion);
+  person.Fill(6, CardMode::kOnly);
   EXPECT_FALSE(person.card.questionVisible);
   EXPECT_TRUE(person.card.cmdSi.visible);
   EXPECT_TRUE(person.card.cmdNo.visible);

@@ -15,7 +15,7 @@ struct AgendaFixture {
 
   // Hands the value to the hearing's routine as the page's next hearing.
   void Hearing(std::string value) {
-    if (page.cDatiFasc.Exists("DPUd")) page.cDatiFasc.Remove("DPUd");
+    if (ItemExists(page.cDatiFasc, "DPUd")) page.cDatiFasc.Remove("DPUd");
     page.cDatiFasc.Add(std::move(value), "DPUd");
     writer.ScriviUdienza("DPUd");
   }

@@ -16,7 +16,7 @@ struct PersonFixture {
   explicit PersonFixture(Office::Data data = Office::Data::kFixedRows) : office(data) {}
 
   // Fills the dialog from the person with that ID_Ana.
-  void Fill(std::int32_t idAna, std::int16_t mode = kCardOnly) {
+  void Fill(std::int32_t idAna, CardMode mode = CardMode::kOnly) {
     DbRecord record;
     record.Open(office.database(),
                 "SELECT * FROM Anagrafica WHERE ID_Ana = " + std::to_string(idAna), kForReading);

@@ -5,19 +5,28 @@
 
 namespace ordex {
 
-inline int ExitCodeOf(EndReason reason) {
+enum class ExitCode {
+  kWell = 0,
+  kFindings = 1,   // something is wrong in what was checked
+  kWrongCall = 2,  // or a command that does not fit
+  kRefused = 3,    // a page of no known kind
+  kError = 4,
+  kFailed = 5,  // an update failed without a word
+};
+
+inline ExitCode ExitCodeOf(EndReason reason) {
   switch (reason) {
     case EndReason::kClosed:
     case EndReason::kDone:
-      return 0;
+      return ExitCode::kWell;
     case EndReason::kRefused:
-      return 3;
+      return ExitCode::kRefused;
     case EndReason::kError:
-      return 4;
+      return ExitCode::kError;
     case EndReason::kFailed:
-      return 5;
+      return ExitCode::kFailed;
   }
-  return 0;
+  return ExitCode::kWell;
 }
 
 }  // namespace ordex

@@ -8,6 +8,7 @@
 #include "app/ini_settings.h"
 #include "app/main_window.h"
 #include "app/mapping_check.h"
+#include "app/page_check.h"
 #include "base/error.h"
 #include "store/db/open_connection.h"
 #include "ui/console/json_events.h"
@@ -54,11 +55,11 @@ std::vector<Finding> Check(const CheckOptions& options) {
 
 }  // namespace
 
-int CheckMappingFiles(const CheckOptions& options) {
+ExitCode CheckMappingFiles(const CheckOptions& options) {
   const std::vector<Finding> findings = Check(options);
   for (const Finding& finding : findings) PrintFinding(finding, options.json);
   if (findings.empty() && !options.json) std::cout << "I file di mappatura sono in ordine.\n";
-  return findings.empty() ? 0 : 1;
+  return findings.empty() ? ExitCode::kWell : ExitCode::kFindings;
 }
 
 }  // namespace ordex::console

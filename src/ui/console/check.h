@@ -3,6 +3,8 @@
 
 #include <filesystem>
 
+#include "ui/common/exit_code.h"
+
 namespace ordex::console {
 
 struct CheckOptions {
@@ -12,8 +14,8 @@ struct CheckOptions {
   bool json = false;
 };
 
-// Returns the exit code: 0 when nothing is wrong, 1 otherwise.
+// Well when nothing is wrong, findings otherwise.
 // Errors: of the settings, the database and the pages' folder.
-int CheckMappingFiles(const CheckOptions& options);
+ExitCode CheckMappingFiles(const CheckOptions& options);
 
 }  // namespace ordex::console

@@ -16,10 +16,6 @@
 namespace ordex::console {
 namespace {
 
-constexpr int kNothingWrong = 0;
-constexpr int kMissing = 1;
-constexpr int kNotReached = 4;
-
 void PrintFinding(const TableFinding& finding, bool json) {
   const bool error = finding.severity == Severity::kError;
   if (json) {
@@ -33,14 +29,14 @@ void PrintFinding(const TableFinding& finding, bool json) {
   }
 }
 
-int PrintError(const RunTimeError& error, bool json) {
+ExitCode PrintError(const RunTimeError& error, bool json) {
   if (json) {
     PrintJsonLine(std::cout,
                   {{"event", "error"}, {"number", error.number()}, {"text", error.description()}});
   } else {
     std::cout << error.description() << "\n";
   }
-  return kNotReached;
+  return ExitCode::kError;
 }
 
 // The columns that the mapping names are the office's own: without one a value is not stored, but
@@ -63,7 +59,7 @@ void PrintDatabaseScript() {
   std::cout << kSqlServerTables;
 }
 
-int TestDatabase(const DatabaseTestOptions& options) {
+ExitCode TestDatabase(const DatabaseTestOptions& options) {
   try {
     const auto settings = OpenSettings(options.settings);
     const auto connection = OpenConnection(ConnectionStringOf(*settings), options.programFolder);
@@ -71,9 +67,9 @@ int TestDatabase(const DatabaseTestOptions& options) {
     std::vector<TableFinding> findings = CheckDatabase(*connection);
     AddMappedColumns(options.programFolder, *connection, findings);
     for (const TableFinding& finding : findings) PrintFinding(finding, options.json);
-    if (!findings.empty()) return kMissing;
+    if (!findings.empty()) return ExitCode::kFindings;
     if (!options.json) std::cout << "Tabelle e colonne sono al completo.\n";
-    return kNothingWrong;
+    return ExitCode::kWell;
   } catch (const RunTimeError& error) {
     return PrintError(error, options.json);
   }

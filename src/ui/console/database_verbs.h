@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <string>
 
+#include "ui/common/exit_code.h"
+
 namespace ordex::console {
 
 struct DatabaseTestOptions {
@@ -15,9 +17,9 @@ struct DatabaseTestOptions {
 // Prints the tables of an empty test database in T-SQL.
 void PrintDatabaseScript();
 
-// Opens the connection that the settings name and prints what is missing in the database. Returns
-// the exit code: 0 when nothing is wrong, 1 where something is missing, 4 where the database cannot
-// be opened or stops answering.
-int TestDatabase(const DatabaseTestOptions& options);
+// Opens the connection that the settings name and prints what is missing in the database. Well
+// when nothing is, findings where something is, error where the database cannot be opened or stops
+// answering.
+ExitCode TestDatabase(const DatabaseTestOptions& options);
 
 }  // namespace ordex::console

@@ -9,15 +9,12 @@
 #include "base/text_file.h"
 #include "ui/console/json_events.h"
 #include "ui/console/state_json.h"
+#include "ui/console/table.h"
 #include "ui/console/terminal.h"
 #include "ui/console/text_events.h"
 
 namespace ordex::console {
 namespace {
-
-constexpr int kReadToTheEnd = 0;
-constexpr int kRefused = 3;
-constexpr int kStopped = 4;
 
 Json LineJson(const PageTrial& trial, const LineReport& line) {
   Json rows = Json::array();
@@ -76,8 +73,8 @@ void PrintText(const PageTrial& trial) {
 
 }  // namespace
 
-int Explain(const std::filesystem::path& programFolder, const std::filesystem::path& pageFile,
-            bool json) {
+ExitCode Explain(const std::filesystem::path& programFolder, const std::filesystem::path& pageFile,
+                 bool json) {
   const auto trial = TryPage(programFolder, ReadTextFile(pageFile));
   if (!trial) {
     if (json) {
@@ -85,14 +82,14 @@ int Explain(const std::filesystem::path& programFolder, const std::filesystem::p
     } else {
       TextEvents(std::cout).End(EndReason::kRefused);
     }
-    return kRefused;
+    return ExitCode::kRefused;
   }
   if (json) {
     PrintJson(*trial);
   } else {
     PrintText(*trial);
   }
-  return trial->stop ? kStopped : kReadToTheEnd;
+  return trial->stop ? ExitCode::kError : ExitCode::kWell;
 }
 
 }  // namespace ordex::console

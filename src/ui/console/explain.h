@@ -4,11 +4,13 @@
 #include <filesystem>
 #include <string>
 
+#include "ui/common/exit_code.h"
+
 namespace ordex::console {
 
-// Returns the exit code: 0 when the page was read to its end, 4 when an error stopped it, 3 when it
-// is of no known kind. Errors: of the page's file and of the mapping files.
-int Explain(const std::filesystem::path& programFolder, const std::filesystem::path& pageFile,
-            bool json);
+// Well when the page was read to its end, error when one stopped it, refused when it is of no known
+// kind. Errors: of the page's file and of the mapping files.
+ExitCode Explain(const std::filesystem::path& programFolder, const std::filesystem::path& pageFile,
+                 bool json);
 
 }  // namespace ordex::console

@@ -1,11 +1,13 @@
 // ordex-console: the main window on a terminal.
-#include <CLI/CLI.hpp>
-#include <algorithm>
+#include <exception>
+#include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iostream>
 #include <memory>
-#include <optional>
+#include <new>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/date.h"
@@ -19,10 +21,10 @@
 #include "ui/common/program_folder.h"
 #include "ui/common/settings_store.h"
 #include "ui/console/check.h"
+#include "ui/console/command_line.h"
 #include "ui/console/command_source.h"
 #include "ui/console/database_verbs.h"
 #include "ui/console/explain.h"
-#include "ui/console/italian_words.h"
 #include "ui/console/json_events.h"
 #include "ui/console/session.h"
 #include "ui/console/terminal.h"
@@ -32,29 +34,8 @@ namespace ordex::console {
 namespace fs = std::filesystem;
 namespace {
 
-constexpr int kWrongCall = 2;
-
-struct Options {
-  std::string dir;
-  std::string settings;
-  std::string clipboard;
-  std::string now;
-  std::string script;
-  bool json = false;
-  bool sql = false;
-  std::string newDatabase;
-  bool sample = false;
-  std::string pages;
-  std::string pageFile;
-};
-
-// A call that cannot be carried out, said in Italian.
-struct WrongCall {
-  std::string text;
-};
-
-int ExitCode(const SessionEnd& end) {
-  return end.scriptError ? kWrongCall : ExitCodeOf(end.reason);
+ExitCode ExitCodeOf(const SessionEnd& end) {
+  return end.scriptError ? ExitCode::kWrongCall : ordex::ExitCodeOf(end.reason);
 }
 
 std::unique_ptr<Clock> MakeClock(const Options& options) {
@@ -82,7 +63,7 @@ void Prompt() {
   std::cout << "ordex> " << std::flush;
 }
 
-int RunSession(const Options& options, const fs::path& executable, std::istream& typed) {
+ExitCode RunSession(const Options& options, const fs::path& executable, std::istream& typed) {
   const auto clock = MakeClock(options);
   SessionClipboard clipboard;
   PutOnClipboard(options, clipboard);
@@ -99,12 +80,18 @@ int RunSession(const Options& options, const fs::path& executable, std::istream&
   Session session(
       {ProgramFolder(options.dir, executable), *settings, *clock, clipboard, options.sql}, commands,
       *events);
-  return ExitCode(session.Run());
+  try {
+    return ExitCodeOf(session.Run());
+  } catch (const std::exception&) {
+    // Whoever reads along waits for the end.
+    events->End(EndReason::kError);
+    throw;
+  }
 }
 
 // The verbs that report on files: what keeps them from it is a wrong call.
 template <class Work>
-int OrWrongCall(Work work) {
+ExitCode OrWrongCall(Work work) {
   try {
     return work();
   } catch (const RunTimeError& error) {
@@ -114,103 +101,87 @@ int OrWrongCall(Work work) {
   }
 }
 
-int CreateDatabase(const Options& options) {
+ExitCode CreateDatabase(const Options& options) {
   return OrWrongCall([&] {
     CreateSqliteDatabase(PathOf(options.newDatabase), options.sample);
-    return 0;
+    return ExitCode::kWell;
   });
 }
 
-int PrintScript() {
+ExitCode PrintScript() {
   PrintDatabaseScript();
-  return 0;
+  return ExitCode::kWell;
 }
 
-int RunDatabaseTest(const Options& options, const fs::path& executable) {
+ExitCode RunDatabaseTest(const Options& options, const fs::path& executable) {
   return OrWrongCall([&] {
     return TestDatabase({ProgramFolder(options.dir, executable), options.settings, options.json});
   });
 }
 
-int RunCheck(const Options& options, const fs::path& executable) {
+ExitCode RunCheck(const Options& options, const fs::path& executable) {
   return OrWrongCall([&] {
     return CheckMappingFiles({ProgramFolder(options.dir, executable), PathOf(options.settings),
                               PathOf(options.pages), options.json});
   });
 }
 
-int RunExplain(const Options& options, const fs::path& executable) {
+ExitCode RunExplain(const Options& options, const fs::path& executable) {
   return OrWrongCall([&] {
     return Explain(ProgramFolder(options.dir, executable), PathOf(options.pageFile), options.json);
   });
 }
 
-void Declare(CLI::App& app, Options& options) {
-  app.set_help_flag("-h,--help", "mostra questo aiuto");
-  app.add_option("--dir", options.dir, "cartella del programma (file di mappatura)");
-  app.add_option("--settings", options.settings, "file delle impostazioni dell'utente");
-  app.add_option("--clipboard", options.clipboard, "testo che sta negli appunti all'avvio");
-  app.add_option("--now", options.now, "orologio fermo, \"GG/MM/AAAA HH:MM:SS\"");
-  app.add_option("--script", options.script, "comandi, uno per riga (altrimenti da tastiera)");
-  app.add_flag("--json", options.json, "un evento JSON per riga");
-  app.add_flag("--sql", options.sql, "anche i testi SQL");
+// What nothing has caught on its way. No memory is asked for: it may be all gone.
+ExitCode TellUnexpected(const std::exception& error) {
+  if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr) {
+    std::cerr << "Memoria insufficiente. Chiudere altri programmi oppure usare una pagina più "
+                 "piccola, poi riprovare.\n";
+  } else {
+    std::cerr << "Errore imprevisto: " << error.what()
+              << ". Riprovare; se si ripete, riferire questo testo all'assistenza.\n";
+  }
+  return ExitCode::kError;
+}
+
+ExitCode Run(const Options& options, const fs::path& executable, std::istream& typed) {
+  switch (options.verb) {
+    case Verb::kHelp:
+      std::cout << options.help;
+      return ExitCode::kWell;
+    case Verb::kCreateDatabase:
+      return CreateDatabase(options);
+    case Verb::kPrintScript:
+      return PrintScript();
+    case Verb::kTestDatabase:
+      return RunDatabaseTest(options, executable);
+    case Verb::kCheck:
+      return RunCheck(options, executable);
+    case Verb::kExplain:
+      return RunExplain(options, executable);
+    case Verb::kSession:
+      break;
+  }
+  return RunSession(options, executable, typed);
 }
 
 // `arguments` stand behind the program's name, `executable` is the program's file.
-int Main(std::vector<std::string> arguments, const fs::path& executable) {
+ExitCode Main(std::vector<std::string> arguments, const fs::path& executable) {
   StandardStreams streams;
-  Options options;
-  CLI::App app("Ordex: importa in Praxion le pagine di OrdexWeb", "ordex-console");
-  // The same call means the same everywhere; the subcommands take this over.
-  app.allow_windows_style_options(false);
-  Declare(app, options);
-  CLI::App* db = app.add_subcommand("db", "il database");
-  db->require_subcommand(1);
-  CLI::App* create = db->add_subcommand("create", "crea un nuovo database incorporato, vuoto");
-  create->add_option("FILE", options.newDatabase, "il file da creare")->required();
-  create->add_flag("--sample", options.sample, "con le pratiche e le persone di esempio");
-  CLI::App* script = db->add_subcommand(
-      "script", "mostra le tabelle di un database di prova per SQL Server, in T-SQL");
-  CLI::App* test = db->add_subcommand("test", "prova il collegamento e cerca ciò che manca");
-  test->add_option("--dir", options.dir, "cartella del programma");
-  test->add_option("--settings", options.settings, "file delle impostazioni dell'utente");
-  test->add_flag("--json", options.json, "un oggetto JSON per riga");
-  CLI::App* check = app.add_subcommand("check", "controlla i file di mappatura");
-  check->add_option("--dir", options.dir, "cartella del programma");
-  check->add_option("--pages", options.pages, "cartella di pagine da provare");
-  check->add_option("--settings", options.settings, "confronta i campi con questo database");
-  check->add_flag("--json", options.json, "un oggetto JSON per riga");
-  CLI::App* explain = app.add_subcommand("explain", "mostra che cosa diventa ogni riga");
-  explain->add_option("--dir", options.dir, "cartella del programma");
-  explain->add_flag("--json", options.json, "un oggetto JSON per riga");
-  explain->add_option("PAGEFILE", options.pageFile, "il testo di una pagina")->required();
-  SpeakItalian(app);
   try {
-    // Taken from the back.
-    std::reverse(arguments.begin(), arguments.end());
-    app.parse(arguments);
-    if (create->parsed()) return CreateDatabase(options);
-    if (script->parsed()) return PrintScript();
-    if (test->parsed()) return RunDatabaseTest(options, executable);
-    if (check->parsed()) return RunCheck(options, executable);
-    if (explain->parsed()) return RunExplain(options, executable);
-    return RunSession(options, executable, streams.in());
-  } catch (const CLI::CallForHelp&) {
-    std::cout << app.help();
-    return 0;
-  } catch (const CLI::ParseError& error) {
-    std::cerr << "Chiamata non valida (" << CauseOf(error)
-              << "). \"ordex-console --help\" mostra come si usa.\n";
+    return Run(ReadCommandLine(std::move(arguments)), executable, streams.in());
   } catch (const WrongCall& wrong) {
     std::cerr << wrong.text << "\n";
+    return ExitCode::kWrongCall;
+  } catch (const std::exception& error) {
+    return TellUnexpected(error);
   }
-  return kWrongCall;
 }
 
 }  // namespace
 }  // namespace ordex::console
 
 int main(int argc, char** argv) {
-  return ordex::console::Main(ordex::Arguments(argc, argv),
-                              ordex::ExecutableFile(argc > 0 ? argv[0] : ""));
+  return static_cast<int>(ordex::console::Main(ordex::Arguments(argc, argv),
+                                               ordex::ExecutableFile(argc > 0 ? argv[0] : "")));
 }

@@ -71,8 +71,15 @@ Session::Session(const SessionSetup& setup, CommandSource& commands, Events& eve
       clipboard_(setup.clipboard),
       tellSql_(setup.tellSql),
       window_(setup.programFolder,
-              {*this, *this, *this, setup.clipboard, setup.clock, setup.settings, *this, *this,
-               [folder = setup.programFolder](std::string_view connectionString) {
+              {.boxes = *this,
+               .dialogs = *this,
+               .desktop = *this,
+               .clipboard = setup.clipboard,
+               .clock = setup.clock,
+               .settings = setup.settings,
+               .diagnostics = *this,
+               .progress = *this,
+               .openDatabase = [folder = setup.programFolder](std::string_view connectionString) {
                  return OpenConnection(connectionString, folder);
                }}) {}
 

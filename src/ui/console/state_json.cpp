@@ -49,7 +49,9 @@ Json CounselJson(const KeyedTable& difensori) {
 Json ReviewListJson(const ReviewList& list) {
   Json columns = Json::array();
   for (const Column& column : list.columns) {
-    columns.push_back({{"header", column.header}, {"width", column.width}, {"icon", column.icon}});
+    columns.push_back({{"header", column.header},
+                       {"width", column.width},
+                       {"icon", static_cast<int>(column.icon)}});
   }
   Json rows = Json::array();
   for (const std::uint32_t place : list.order) rows.push_back(ReviewRowJson(list.rows[place]));
@@ -97,7 +99,7 @@ Json CommandsJson(const Commands& commands) {
   return {
       {"cmdAzione",
        {{"caption", azione.caption},
-        {"symbol", azione.symbol},
+        {"symbol", static_cast<int>(azione.symbol)},
         {"enabled", azione.enabled},
         {"toolTip", azione.toolTip}}},
       {"cmdAnnulla",

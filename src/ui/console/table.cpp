@@ -1,10 +1,11 @@
+#include "ui/console/table.h"
+
 #include <utf8proc.h>
 
 #include <algorithm>
 #include <numeric>
 
 #include "base/text.h"
-#include "ui/console/terminal.h"
 
 namespace ordex::console {
 namespace {

@@ -4,9 +4,6 @@
 #include <cstddef>
 #include <istream>
 #include <memory>
-#include <string>
-#include <string_view>
-#include <vector>
 
 namespace ordex::console {
 
@@ -31,17 +28,5 @@ class StandardStreams {
 bool PersonAtTerminal();
 // The terminal's width in columns; 100 where there is no terminal.
 std::size_t TerminalWidth();
-
-// The columns that `text` takes on a terminal.
-std::size_t DisplayWidth(std::string_view text);
-// `text` on one line and cut with "…" to fit into `width` columns, filled up with blanks.
-std::string Fitted(std::string_view text, std::size_t width);
-
-// A table that fits into `width` columns: cells that are too long are cut, the widest column first.
-struct Table {
-  std::vector<std::string> headers;
-  std::vector<std::vector<std::string>> rows;
-};
-std::string Drawn(const Table& table, std::size_t width);
 
 }  // namespace ordex::console

@@ -1,3 +1,4 @@
+// The terminal of a Unix system, which carries UTF-8 as it stands.
 #include <sys/ioctl.h>
 #include <unistd.h>
 

@@ -1,3 +1,4 @@
+// The terminal of Windows: its keyboard gives UTF-16, and its output stands at an old code page.
 #include <fcntl.h>
 #include <io.h>
 #include <windows.h>

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/text.h"
+#include "ui/console/table.h"
 #include "ui/console/terminal.h"
 
 namespace ordex::console {

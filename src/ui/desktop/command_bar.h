@@ -25,7 +25,7 @@ class CommandBar : public wxPanel {
   wxWindow* MakeBanner();
 
   const Commands& commands_;
-  int symbol_ = kSymbolNone;
+  Symbol symbol_ = Symbol::kNone;
   std::string picture_;
   wxButton* cmdAzione_;
   wxButton* cmdAnnulla_;

@@ -11,11 +11,18 @@ namespace ordex::desktop {
 
 Desk::Desk(const std::filesystem::path& programFolder, Settings& settings, Clock& clock,
            std::function<void(EndReason)> onEnd)
-    : window_(programFolder,
-              World{ports_, ports_, ports_, clipboard_, clock, settings, ports_, ports_,
-                    [programFolder](std::string_view connectionString) {
-                      return OpenConnection(connectionString, programFolder);
-                    }}),
+    : window_(programFolder, World{.boxes = ports_,
+                                   .dialogs = ports_,
+                                   .desktop = ports_,
+                                   .clipboard = clipboard_,
+                                   .clock = clock,
+                                   .settings = settings,
+                                   .diagnostics = ports_,
+                                   .progress = ports_,
+                                   .openDatabase =
+                                       [programFolder](std::string_view connectionString) {
+                                         return OpenConnection(connectionString, programFolder);
+                                       }}),
       frame_(new MainFrame(window_, [this, end = std::move(onEnd)] { end(*window_.ended()); })) {
   ports_.Attach(window_, *frame_);
 }

@@ -37,9 +37,9 @@ wxBitmapBundle PictureOf(std::string_view imageKey, int side) {
   return {};
 }
 
-wxBitmapBundle SymbolPicture(int symbol, int side) {
-  if (symbol == kSymbolUpdate) return Icon("update", side);
-  if (symbol == kSymbolCreate) return Icon("create", side);
+wxBitmapBundle SymbolPicture(Symbol symbol, int side) {
+  if (symbol == Symbol::kUpdate) return Icon("update", side);
+  if (symbol == Symbol::kCreate) return Icon("create", side);
   return {};
 }
 

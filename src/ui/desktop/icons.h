@@ -6,6 +6,8 @@
 
 #include <string_view>
 
+#include "state/controls.h"
+
 namespace ordex::desktop {
 
 // The SVG text of resources/icons/NAME.svg; empty where there is none.
@@ -18,8 +20,8 @@ wxBitmapBundle Icon(std::string_view name, int side);
 // An unknown key gives an empty picture.
 wxBitmapBundle PictureOf(std::string_view imageKey, int side);
 
-// The picture of a flat button's symbol number.
-wxBitmapBundle SymbolPicture(int symbol, int side);
+// The picture of a flat button's symbol.
+wxBitmapBundle SymbolPicture(Symbol symbol, int side);
 
 wxIconBundle ProgramIcon();
 

@@ -148,7 +148,12 @@ ReviewListCtrl::ReviewListCtrl(wxWindow* parent, const ReviewList& list, const A
   for (int place = 0; place < static_cast<int>(list_.columns.size()); ++place) {
     InsertColumn(place, wxString());
   }
-  SetCursor(wxCursor(wxCURSOR_HAND));
+  Bind(wxEVT_MOTION, [this, run](wxMouseEvent& event) {
+    event.Skip();
+    // Every further move would change nothing, and have all drawn anew.
+    if (list_.mousePointer == Pointer::kHand) return;
+    run([](MainWindow& window) { window.MoveOverReviewList(); });
+  });
 }
 
 void ReviewListCtrl::Draw() {
@@ -156,7 +161,7 @@ void ReviewListCtrl::Draw() {
   for (int place = 0; place < static_cast<int>(list_.columns.size()); ++place) {
     const Column& column = list_.columns[static_cast<std::size_t>(place)];
     ShowColumn(place, column, place == kValueColumn ? Width::kFits : Width::kFixed);
-    DrawIcon(place, column.icon);
+    DrawIcon(place, static_cast<int>(column.icon));
   }
   const std::pair sorted(list_.sortKey, list_.sortOrder);
   if (sorted_ != sorted) {
@@ -165,6 +170,7 @@ void ReviewListCtrl::Draw() {
   }
   ShowRows(list_.rows.size());
   if (GetToolTipText() != Wx(list_.toolTip)) SetToolTip(Wx(list_.toolTip));
+  if (list_.mousePointer == Pointer::kHand) SetCursor(wxCursor(wxCURSOR_HAND));
 }
 
 void ReviewListCtrl::DrawIcon(int place, int icon) {

@@ -17,6 +17,18 @@ constexpr int kGap = 5;
 // A list of fewer pixels than this shows no row worth reading.
 constexpr int kLeastListHeight = 100;
 
+// An act is on its way for as long as this lives.
+class Running {
+ public:
+  explicit Running(bool& running) : running_(running) { running_ = true; }
+  ~Running() { running_ = false; }
+  Running(const Running&) = delete;
+  Running& operator=(const Running&) = delete;
+
+ private:
+  bool& running_;
+};
+
 }  // namespace
 
 MainFrame::MainFrame(MainWindow& window, std::function<void()> onEnd)
@@ -81,9 +93,10 @@ void MainFrame::Arrange() {
 
 void MainFrame::Run(const Act& act) {
   if (running_ || window_.ended()) return;
-  running_ = true;
-  act(window_);
-  running_ = false;
+  {
+    const Running running(running_);
+    act(window_);
+  }
   status_->HideProgress();
   if (window_.ended()) {
     Hide();

@@ -13,7 +13,6 @@
 #include "base/error.h"
 #include "base/number.h"
 #include "ui/common/clocks.h"
-#include "ui/common/exit_code.h"
 #include "ui/common/process.h"
 #include "ui/common/program_folder.h"
 #include "ui/common/settings_store.h"
@@ -23,8 +22,6 @@
 namespace ordex::desktop {
 namespace {
 
-constexpr int kWrongCall = 2;
-constexpr int kUnexpectedError = 4;
 // The first instance may be just ending, or still loading with more callers waiting than the system
 // lets wait: on a busy machine that takes seconds.
 constexpr int kTries = 50;
@@ -56,7 +53,7 @@ bool OrdexApp::OnInit() {
     if (ClaimOrHandOver()) OpenWindow();
   } catch (const RunTimeError& error) {
     Tell(ReportText(error), wxICON_ERROR);
-    Finish(kUnexpectedError);
+    Finish(ExitCode::kError);
   }
   return true;
 }
@@ -68,12 +65,12 @@ bool OrdexApp::TakeOptions() {
     options_ = ReadOptions(arguments);
   } catch (const std::invalid_argument& wrong) {
     Tell(wrong.what(), wxICON_EXCLAMATION);
-    Finish(kWrongCall);
+    Finish(ExitCode::kWrongCall);
     return false;
   }
   if (options_.help) {
     Tell(OptionsHelp(), wxICON_INFORMATION);
-    Finish(0);
+    Finish(ExitCode::kWell);
     return false;
   }
   settings_ = OpenSettings(options_.settings);
@@ -91,13 +88,13 @@ bool OrdexApp::ClaimOrHandOver() {
     if (lock_.Acquire()) return true;
     if (PokeFirstInstance(LinkService(), TimeText(clock_->Now()))) {
       ShowOrdex();
-      Finish(0);
+      Finish(ExitCode::kWell);
       return false;
     }
   }
   Tell("Ordex è già in esecuzione ma non risponde. Chiudere la finestra di Ordex e riprovare.",
        wxICON_EXCLAMATION);
-  Finish(kUnexpectedError);
+  Finish(ExitCode::kError);
   return false;
 }
 
@@ -121,7 +118,7 @@ void OrdexApp::OpenWindow() {
   desk_->Start();
 }
 
-void OrdexApp::Finish(int exitCode) {
+void OrdexApp::Finish(ExitCode exitCode) {
   exitCode_ = exitCode;
   over_ = true;
   server_.reset();
@@ -131,7 +128,7 @@ void OrdexApp::Finish(int exitCode) {
 
 int OrdexApp::OnRun() {
   if (!over_) wxApp::OnRun();
-  return exitCode_;
+  return static_cast<int>(exitCode_);
 }
 
 // What the user copied from the lists outlives the program.
@@ -149,7 +146,7 @@ bool OrdexApp::OnExceptionInMainLoop() {
   } catch (const std::exception& error) {
     Tell("Errore imprevisto: " + std::string(error.what()), wxICON_ERROR);
   }
-  Finish(kUnexpectedError);
+  Finish(ExitCode::kError);
   return false;
 }
 

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "state/ports.h"
+#include "ui/common/exit_code.h"
 #include "ui/desktop/desk.h"
 #include "ui/desktop/instance_link.h"
 #include "ui/desktop/instance_lock.h"
@@ -27,10 +28,10 @@ class OrdexApp : public wxApp {
   // True where this is the first instance; a second start has signalled and raised the first.
   bool ClaimOrHandOver();
   void ShowOrdex() const;
-  void Finish(int exitCode);
+  void Finish(ExitCode exitCode);
 
   Options options_;
-  int exitCode_ = 0;
+  ExitCode exitCode_ = ExitCode::kWell;
   bool over_ = false;
   InstanceLock lock_;
   std::unique_ptr<LinkServer> server_;
