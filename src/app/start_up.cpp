@@ -137,7 +137,10 @@ void MainWindow::FindCaseOfPage() {
             window_.commands.cmdAzione);
 }
 
+// A create that waits for its confirmation is of the former page: with the new one's values it
+// would make a case that mixes both.
 void MainWindow::TakeFurtherProfile() {
+  if (window_.commands.bConferma) cmdAnnulla_Click(window_);
   SetCaption(window_);
   PageFileOnDisk pageFile(programFolder_, window_.page.szNameTxt);
   TxtfromClipboard(programFolder_, window_.page.szNameTxt, world_.clipboard);

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/date.h"
+#include "base/error.h"
 #include "base/text.h"
 #include "store/db/transaction.h"
 #include "store/fixed_rows.h"
@@ -40,8 +41,20 @@ std::string DoubleQuoted(std::string_view text) {
   return "\"" + ReplaceAll(text, "\"", "\"\"") + "\"";
 }
 
+// Error: type mismatch, naming the entry.
+DateTime DateOf(const AgendaRow& row) {
+  try {
+    return ToDate(Trim(row.text));
+  } catch (const RunTimeError& error) {
+    throw RunTimeError(error.code(), error.description() + ". È la data dell'impegno \"" +
+                                         std::string(Trim(row.sub)) +
+                                         "\". Gli impegni prima di questo sono stati scritti; "
+                                         "controllare la pagina sul portale e copiarla di nuovo");
+  }
+}
+
 void WriteEntry(const Database& database, const CurrentCase& current, const AgendaRow& row) {
-  const DateTime when = ToDate(Trim(row.text));
+  const DateTime when = DateOf(row);
   const DateTime day = DateOnly(when);
   const std::string_view parti = Trim(current.parti);
   // What is compared is what is stored, so that a second press doubles no long entry.

@@ -153,8 +153,10 @@ TEST(AgendaOfTheWindow, WithADateThatIsNoneReportsTheErrorKeepsWhatWasWrittenAnd
   };
   fixture.window.PressAzione();
   ASSERT_EQ(fixture.boxes.shown.size(), 1U);
-  EXPECT_TRUE(fixture.boxes.shown[0].text.starts_with("Errore di run-time '13': "));
-  EXPECT_TRUE(fixture.boxes.shown[0].text.ends_with("\"domani\" non è una data (GG/MM/AAAA)"));
+  EXPECT_EQ(fixture.boxes.shown[0].text,
+            "Errore di run-time '13': Tipo non corrispondente: \"domani\" non è una data "
+            "(GG/MM/AAAA). È la data dell'impegno \"Repliche\". Gli impegni prima di questo sono "
+            "stati scritti; controllare la pagina sul portale e copiarla di nuovo");
   EXPECT_EQ(fixture.boxes.shown[0].title, "Ordex");
   EXPECT_EQ(fixture.boxes.shown[0].icon, BoxIcon::kStop);
   EXPECT_EQ(seen, "Note");

@@ -1,6 +1,5 @@
 #include "ui/console/check.h"
 
-#include <algorithm>
 #include <iostream>
 #include <iterator>
 #include <vector>
@@ -10,6 +9,7 @@
 #include "app/mapping_check.h"
 #include "app/page_check.h"
 #include "base/error.h"
+#include "base/path_text.h"
 #include "store/db/open_connection.h"
 #include "ui/console/json_events.h"
 #include "ui/console/state_json.h"
@@ -36,20 +36,29 @@ void PrintFinding(const Finding& finding, bool json) {
   std::cout << ": " << (error ? "errore" : "avviso") << ". " << finding.text << "\n";
 }
 
-std::vector<Finding> Check(const CheckOptions& options) {
-  std::vector<Finding> findings = CheckMappings(options.programFolder);
-  const bool broken = std::any_of(findings.begin(), findings.end(), [](const Finding& finding) {
-    return finding.severity == Severity::kError;
-  });
-  if (!options.settings.empty()) {
+void AppendColumns(std::vector<Finding>& findings, const CheckOptions& options) {
+  try {
     const IniSettings settings(options.settings);
     const auto connection = OpenConnection(ConnectionStringOf(settings), options.programFolder);
     Append(findings, CheckColumns(options.programFolder, *connection));
+  } catch (const RunTimeError& error) {
+    findings.push_back({TextOf(options.settings), 0, Severity::kError, error.description()});
   }
-  // Pages say nothing of files that the program itself could not load.
-  if (!options.pages.empty() && !broken) {
+}
+
+void AppendPages(std::vector<Finding>& findings, const CheckOptions& options) {
+  try {
     Append(findings, CheckPages(options.programFolder, options.pages));
+  } catch (const FileLineError&) {
+    // Pages say nothing of a file that cannot be loaded; the line at fault is told already.
+    if (findings.empty()) throw;
   }
+}
+
+std::vector<Finding> Check(const CheckOptions& options) {
+  std::vector<Finding> findings = CheckMappings(options.programFolder);
+  if (!options.settings.empty()) AppendColumns(findings, options);
+  if (!options.pages.empty()) AppendPages(findings, options);
   return findings;
 }
 
