@@ -3,6 +3,7 @@
 #include <wx/clipbrd.h>
 
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "base/text.h"
@@ -29,7 +30,10 @@ class TextBytes : public wxTextDataObject {
  public:
   bool SetData(const wxDataFormat& format, std::size_t size, const void* bytes) override {
     if (format == wxDataFormat(wxDF_UNICODETEXT)) {
-      text_ = DecodeText({static_cast<const char*>(bytes), size});
+      std::string_view text(static_cast<const char*>(bytes), size);
+      // Some programs count the zero at its end as a part of it.
+      while (text.ends_with('\0')) text.remove_suffix(1);
+      text_ = DecodeText(std::string(text));
       return true;
     }
     // A text of an old program, in the encoding of its desktop.
