@@ -21,7 +21,9 @@ TEST(PokeWhileABoxIsUp, WaitsUntilTheBoxIsAnsweredAndItsHandlerDone) {
   };
   fixture.window.PressAzione();
   EXPECT_EQ(numberInTheBox, "3056/2025");
-  EXPECT_TRUE(fixture.state().commands.bConferma);
+  // The answer was yes, and the create that it began is given up for the new page.
+  EXPECT_FALSE(fixture.state().choice.cmbUtenteCont.items.empty());
+  EXPECT_FALSE(fixture.state().commands.bConferma);
   EXPECT_EQ(fixture.state().page.szNumeroRG, "633/2025");
   EXPECT_EQ(fixture.state().choice.ctlTestata1.idPra, 6);
 }
