@@ -46,7 +46,8 @@ PageFileOnDisk::PageFileOnDisk(const fs::path& programFolder, std::string_view s
 
 PageFileOnDisk::~PageFileOnDisk() {
   std::error_code ignored;
-  if (present_) fs::remove(path_, ignored);
+  // A folder of that name is not ours.
+  if (present_ && !fs::is_directory(path_, ignored)) fs::remove(path_, ignored);
 }
 
 void PageFileOnDisk::Delete() {
@@ -64,6 +65,7 @@ void TxtfromClipboard(const fs::path& programFolder, std::string_view szNameTxt,
   const std::string text = ClipboardText(clipboard);
   const fs::path file = PageFile(programFolder, szNameTxt);
   std::ofstream out(file, std::ios::binary | std::ios::trunc);
+  if (!out.is_open()) throw WriteError(file);
   // The rights are narrowed while the file is still empty.
   AllowOwnerOnly(file);
   out << '"';

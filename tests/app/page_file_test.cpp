@@ -71,6 +71,12 @@ TEST_F(PageFileTest, ThatCannotBeWrittenIsAnErrorThatNamesIt) {
   }
 }
 
+TEST_F(PageFileTest, AFolderThatBearsItsNameIsLeftThere) {
+  std::filesystem::create_directory(folder_ / "pagina.txt");
+  { const PageFileOnDisk guard(folder_.path(), "pagina"); }
+  EXPECT_TRUE(std::filesystem::is_directory(folder_ / "pagina.txt"));
+}
+
 TEST_F(PageFileTest, GoesAwayWithItsGuard) {
   folder_.Write("pagina.txt", "x");
   { const PageFileOnDisk guard(folder_.path(), "pagina"); }

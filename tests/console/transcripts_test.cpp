@@ -99,6 +99,21 @@ TEST_F(Transcript, PageThatStops) {
       {"ok", "close"}, 0);
 }
 
+// What the page holds of signs that a terminal obeys arrives there as blanks.
+TEST_F(Transcript, PageThatCannotSteerTheTerminal) {
+  workplace_.SetPage(
+      "Profilo del fascicolo - Dati generali\r\nSezione: Prima\x1B[2J Civile\x7F\xC2\x9B\r\n"
+      "Materia\x1B[31m\r\nMateria\r\n");
+  Run({"--dir", "office", "--settings", "settings.ini", "--clipboard", "page.txt", "--script",
+       "script.txt"},
+      {"ok", "row 1", "close"}, 0);
+}
+
+TEST_F(Transcript, PageOfAnotherKindHandedOver) {
+  workplace_.WriteWorkFile("altra.txt", "Agenda dell'avvocato - Impegni del periodo\n");
+  Session("profilo-contratto.txt", {"clipboard altra.txt", "poke", "close"}, 0);
+}
+
 TEST_F(Transcript, SettingsWithoutAUser) {
   workplace_.WriteSettings("[startup]\nSecurity=;\nServer=Data Source=file:office.db\n");
   Session("profilo-contratto.txt", {}, 4);
@@ -119,6 +134,16 @@ TEST_F(Transcript, SqlTextsAsTheyAreBuilt) {
 
 TEST_F(Transcript, PageExplained) {
   workplace_.TakePage("samples/storico-unica.txt");
+  Run({"explain", "--dir", "office", "page.txt"}, {}, 0);
+}
+
+TEST_F(Transcript, AgendaExplained) {
+  workplace_.TakePage("samples/agenda-settimana.txt");
+  Run({"explain", "--dir", "office", "page.txt"}, {}, 0);
+}
+
+TEST_F(Transcript, JusticeOfThePeaceExplained) {
+  workplace_.TakePage("samples/giudice-di-pace-opposizione.txt");
   Run({"explain", "--dir", "office", "page.txt"}, {}, 0);
 }
 

@@ -38,6 +38,8 @@ class Events {
   virtual void Beep() = 0;
   virtual void Raise() = 0;
   virtual void Focus(std::string_view control) = 0;
+  // A row was clicked: the list's tool tip, which holds a long value whole.
+  virtual void ToolTip(std::string_view text) = 0;
   virtual void Open(std::string_view link) = 0;
   virtual void Progress(std::size_t done, std::size_t total) = 0;
   virtual void End(EndReason reason) = 0;

@@ -42,13 +42,17 @@ std::string Became(const PageTrial& trial, const LineReport& line) {
   std::string text;
   const auto append = [&text](std::string_view name, std::string_view value) {
     if (!text.empty()) text.append("; ");
-    text.append(name).append(name.empty() ? "" : " = ").append(value);
+    text.append(name).append(name.empty() || value.empty() ? "" : " = ").append(value);
   };
+  if (line.rule == kNumberOfEntries) {
+    append("Impegni", std::to_string(trial.window.page.iNrEventiAgenda));
+  }
   for (const std::size_t place : line.reviewRows) {
     const ReviewRow row = trial.window.lstImport.rows[place];
-    append(
-        row.text.empty() ? row.sub[0] : row.text,
-        row.sub[2].empty() ? row.sub[1] : std::string(row.sub[0]).append(" ").append(row.sub[1]));
+    // An event's date is a value, a field's label is none.
+    const bool event = !row.sub[2].empty() || row.text == kHistoryRow;
+    append(row.text.empty() ? row.sub[0] : row.text,
+           event ? std::string(row.sub[0]).append(" ").append(row.sub[1]) : row.sub[1]);
   }
   for (const std::size_t place : line.agendaRows) {
     const AgendaRow row = trial.window.lstAgendaAvv.rows[place];
@@ -67,7 +71,7 @@ void PrintText(const PageTrial& trial) {
   }
   std::cout << trial.window.frmMain.caption << "\n\n" << Drawn(table, TerminalWidth()) << "\n";
   if (trial.stop) {
-    std::cout << ReplaceAll(ImportStopBox(*trial.stop).text, "\r\n", "\n") << "\n";
+    std::cout << Printable(ImportStopBox(*trial.stop).text) << "\n";
   }
 }
 

@@ -104,6 +104,9 @@ void JsonEvents::Focus(std::string_view control) {
   PrintJsonLine(out_, {{"event", "focus"}, {"name", control}});
 }
 
+// The state holds it.
+void JsonEvents::ToolTip(std::string_view) {}
+
 void JsonEvents::Open(std::string_view link) {
   PrintJsonLine(out_, {{"event", "open"}, {"text", link}});
 }

@@ -24,6 +24,7 @@ class JsonEvents : public Events {
   void Beep() override;
   void Raise() override;
   void Focus(std::string_view control) override;
+  void ToolTip(std::string_view text) override;
   void Open(std::string_view link) override;
   void Progress(std::size_t done, std::size_t total) override;
   void End(EndReason reason) override;

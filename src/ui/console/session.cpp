@@ -108,7 +108,9 @@ void Session::RunCommands() {
     Carry(*command, [this](const Command& one) { return ActOnWindow(one); });
     const bool changes = command->verb == "click" || command->verb == "select" ||
                          command->verb == "choose" || command->verb == "poke";
-    if (changes && commands_.Interactive() && !window_.ended()) events_.Brief(State());
+    if (!commands_.Interactive() || window_.ended()) continue;
+    if (changes) events_.Brief(State());
+    if (command->verb == "column") events_.State(State());
   }
 }
 
@@ -234,6 +236,8 @@ bool Session::ClickRow(std::string_view number) {
   const auto row = NumberWithin(number, 1, count);
   if (!row) return false;
   window_.ClickRow(static_cast<std::size_t>(*row));
+  events_.ToolTip(State().lstImport.visible ? State().lstImport.toolTip
+                                            : State().lstAgendaAvv.toolTip);
   return true;
 }
 
@@ -243,7 +247,8 @@ bool Session::PutOnClipboard(const std::string& file) {
     return true;
   } catch (const RunTimeError& error) {
     std::cerr << error.description() << "\n";
-    return false;
+    // A person has been told and may try again; a script goes wrong here.
+    return commands_.Interactive();
   }
 }
 

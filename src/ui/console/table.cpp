@@ -13,13 +13,21 @@ namespace {
 constexpr std::size_t kGap = 2;
 constexpr std::size_t kNarrowest = 6;
 
-// Line ends and other control characters as blanks, so that a value stays on its line.
+// So that a value stays on its line.
 std::string OnOneLine(std::string_view text) {
-  std::string line = ReplaceAll(text, "\r\n", " ");
-  std::replace_if(
-      line.begin(), line.end(), [](char byte) { return static_cast<unsigned char>(byte) < 0x20; },
-      ' ');
+  std::string line = Printable(text);
+  std::replace(line.begin(), line.end(), '\n', ' ');
   return line;
+}
+
+bool IsControl(char byte) {
+  return static_cast<unsigned char>(byte) < 0x20 || byte == '\x7F';
+}
+
+// The controls U+0080 to U+009F are two bytes each.
+bool IsLateControl(std::string_view text) {
+  return text.size() > 1 && text[0] == '\xC2' &&
+         (static_cast<unsigned char>(text[1]) & 0xE0U) == 0x80;
 }
 
 std::size_t CharacterWidth(std::string_view character) {
@@ -58,6 +66,26 @@ void AppendRow(std::string& text, const std::vector<std::string>& cells,
 }
 
 }  // namespace
+
+std::string Printable(std::string_view text) {
+  std::string printable;
+  printable.reserve(text.size());
+  while (!text.empty()) {
+    std::size_t taken = 1;
+    if (text.starts_with("\r\n")) {
+      printable.push_back('\n');
+      taken = 2;
+    } else if (IsLateControl(text)) {
+      printable.push_back(' ');
+      taken = 2;
+    } else {
+      const char byte = text.front();
+      printable.push_back(IsControl(byte) && byte != '\n' ? ' ' : byte);
+    }
+    text.remove_prefix(taken);
+  }
+  return printable;
+}
 
 std::size_t DisplayWidth(std::string_view text) {
   std::size_t width = 0;

@@ -8,6 +8,9 @@
 
 namespace ordex::console {
 
+// `text` with a blank for each control character but the line feed, so that a page cannot steer the
+// terminal; CRLF is brought to LF.
+std::string Printable(std::string_view text);
 // The columns that `text` takes on a terminal.
 std::size_t DisplayWidth(std::string_view text);
 // `text` on one line and cut with "…" to fit into `width` columns, filled up with blanks.

@@ -16,7 +16,7 @@ constexpr std::size_t kBoxNameWidth = 24;
 // "Stato         Trovata una sola pratica …"
 void PrintLine(std::ostream& out, std::string_view label, std::string_view value) {
   if (value.empty()) return;
-  out << Fitted(label, kLabelWidth) << value << "\n";
+  out << Fitted(label, kLabelWidth) << Printable(value) << "\n";
 }
 
 std::string WithoutMnemonic(std::string_view caption) {
@@ -101,7 +101,9 @@ void PrintParties(std::ostream& out, const ControlTexts& texts) {
   for (const auto& [control, text] : texts) {
     if (control == "caption") out << "── " << text << " ──\n";
     if (control == "lblTitolo") out << text << "\n\n";
-    if (control.starts_with("txt")) out << Fitted(control, kBoxNameWidth) << text << "\n";
+    if (control.starts_with("txt")) {
+      out << Fitted(control, kBoxNameWidth) << Printable(text) << "\n";
+    }
   }
   out << "[OK: click cmdOk]" << std::endl;
 }
@@ -149,7 +151,7 @@ void TextEvents::Brief(const Window& window) {
 
 void TextEvents::BoxUp(const BoxText& box) {
   out_ << "\n── " << box.title << " ──\n"
-       << ReplaceAll(box.text, "\r\n", "\n") << "\n"
+       << Printable(box.text) << "\n"
        << (box.buttons == BoxButtons::kOk ? "[OK]" : "[Sì] [No]") << std::endl;
 }
 
@@ -167,7 +169,7 @@ void TextEvents::Dialog(std::string_view name, bool open, const ControlTexts& te
   const auto text = [&texts](std::string_view control) {
     const auto found = std::find_if(texts.begin(), texts.end(),
                                     [&](const auto& pair) { return pair.first == control; });
-    return found == texts.end() ? std::string{} : ReplaceAll(found->second, "\r\n", "\n");
+    return found == texts.end() ? std::string{} : Printable(found->second);
   };
   out_ << "\n── " << Trim(text("caption")) << " ──\n" << text("lblInfo") << "\n";
   if (!text("lblInfo2").empty()) out_ << text("Label1") << text("lblInfo2") << "\n";
@@ -191,18 +193,18 @@ void TextEvents::Found(const std::vector<FoundCase>& cases) {
 }
 
 void TextEvents::Sql(std::string_view text) {
-  out_ << "SQL: " << text << std::endl;
+  out_ << "SQL: " << Printable(text) << std::endl;
 }
 
 void TextEvents::Trapped(std::string_view routine, std::string_view text) {
-  out_ << "Errore assorbito in " << routine << ": " << text << std::endl;
+  out_ << "Errore assorbito in " << routine << ": " << Printable(text) << std::endl;
 }
 
 // The box that follows says it all.
 void TextEvents::Error(const RunTimeError&, std::optional<std::size_t>) {}
 
 void TextEvents::Beep() {
-  out_ << "\a" << std::flush;
+  out_ << "\aSegnale acustico." << std::endl;
 }
 
 void TextEvents::Raise() {
@@ -211,12 +213,16 @@ void TextEvents::Raise() {
 
 void TextEvents::Focus(std::string_view) {}
 
+void TextEvents::ToolTip(std::string_view text) {
+  if (!text.empty()) out_ << Printable(text) << std::endl;
+}
+
 void TextEvents::Open(std::string_view link) {
-  out_ << "Apertura di " << link << std::endl;
+  out_ << "Apertura di " << Printable(link) << std::endl;
 }
 
 void TextEvents::Progress(std::size_t done, std::size_t total) {
-  out_ << done << " di " << total << std::endl;
+  out_ << "Righe registrate: " << done << " di " << total << std::endl;
 }
 
 void TextEvents::End(EndReason reason) {
@@ -234,7 +240,8 @@ std::string_view HelpText() {
          "find TESTO             cerca una pratica per numero, parte od oggetto\n"
          "choose ID              sceglie la pratica con quell'ID_Pra\n"
          "person ID              mostra la persona con quell'ID_Ana\n"
-         "column N, row N        clic sulla colonna o sulla riga N dell'elenco\n"
+         "column N               ordina l'elenco secondo la colonna N\n"
+         "row N                  mostra per intero il valore della riga N\n"
          "yes, no, ok            risponde al messaggio (Invio: la risposta predefinita)\n"
          "click cmdSi, cmdNo     risponde nella scheda della persona\n"
          "type CASELLA TESTO     scrive un nome nella finestra delle parti (txtAttore ...)\n"
