@@ -8,6 +8,10 @@
 namespace ordex::console {
 namespace {
 
+// What an option's value is.
+constexpr const char* kFile = "FILE";
+constexpr const char* kFolder = "CARTELLA";
+
 struct Verbs {
   CLI::App* create;
   CLI::App* script;
@@ -18,11 +22,17 @@ struct Verbs {
 
 void AddSessionOptions(CLI::App& app, Options& options) {
   app.set_help_flag("-h,--help", "mostra questo aiuto");
-  app.add_option("--dir", options.dir, "cartella del programma (file di mappatura)");
-  app.add_option("--settings", options.settings, "file delle impostazioni dell'utente");
-  app.add_option("--clipboard", options.clipboard, "testo che sta negli appunti all'avvio");
+  app.add_option("--dir", options.dir, "cartella del programma (file di mappatura)")
+      ->type_name(kFolder);
+  app.add_option("--settings", options.settings, "file delle impostazioni dell'utente")
+      ->type_name(kFile);
+  app.add_option("--clipboard", options.clipboard,
+                 "file con il testo che sta negli appunti all'avvio")
+      ->type_name(kFile);
   app.add_option("--now", options.now, "orologio fermo, \"GG/MM/AAAA HH:MM:SS\"");
-  app.add_option("--script", options.script, "comandi, uno per riga (altrimenti da tastiera)");
+  app.add_option("--script", options.script,
+                 "file di comandi, uno per riga (altrimenti da tastiera)")
+      ->type_name(kFile);
   app.add_flag("--json", options.json, "un evento JSON per riga");
   app.add_flag("--sql", options.sql, "anche i testi SQL");
 }
@@ -36,22 +46,27 @@ void AddDatabaseVerbs(CLI::App& app, Options& options, Verbs& verbs) {
   verbs.script = db->add_subcommand(
       "script", "mostra le tabelle di un database di prova per SQL Server, in T-SQL");
   verbs.test = db->add_subcommand("test", "prova il collegamento e cerca ciò che manca");
-  verbs.test->add_option("--dir", options.dir, "cartella del programma");
-  verbs.test->add_option("--settings", options.settings, "file delle impostazioni dell'utente");
+  verbs.test->add_option("--dir", options.dir, "cartella del programma")->type_name(kFolder);
+  verbs.test->add_option("--settings", options.settings, "file delle impostazioni dell'utente")
+      ->type_name(kFile);
   verbs.test->add_flag("--json", options.json, "un oggetto JSON per riga");
 }
 
 void AddCheck(CLI::App& app, Options& options, Verbs& verbs) {
   verbs.check = app.add_subcommand("check", "controlla i file di mappatura");
-  verbs.check->add_option("--dir", options.dir, "cartella del programma");
-  verbs.check->add_option("--pages", options.pages, "cartella di pagine da provare");
-  verbs.check->add_option("--settings", options.settings, "confronta i campi con questo database");
+  verbs.check->add_option("--dir", options.dir, "cartella del programma")->type_name(kFolder);
+  verbs.check->add_option("--pages", options.pages, "cartella di pagine da provare")
+      ->type_name(kFolder);
+  verbs.check
+      ->add_option("--settings", options.settings,
+                   "confronta i campi con il database di queste impostazioni")
+      ->type_name(kFile);
   verbs.check->add_flag("--json", options.json, "un oggetto JSON per riga");
 }
 
 void AddExplain(CLI::App& app, Options& options, Verbs& verbs) {
-  verbs.explain = app.add_subcommand("explain", "mostra che cosa diventa ogni riga");
-  verbs.explain->add_option("--dir", options.dir, "cartella del programma");
+  verbs.explain = app.add_subcommand("explain", "mostra che cosa diventa ogni riga di una pagina");
+  verbs.explain->add_option("--dir", options.dir, "cartella del programma")->type_name(kFolder);
   verbs.explain->add_flag("--json", options.json, "un oggetto JSON per riga");
   verbs.explain->add_option("PAGEFILE", options.pageFile, "il testo di una pagina")->required();
 }
