@@ -5,7 +5,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <memory>
 #include <stdexcept>
 #include <string_view>
@@ -34,47 +33,46 @@ class PackedTexts {
     return *this;
   }
 
-  std::size_t size() const { return rows_.size(); }
-  bool empty() const { return rows_.empty(); }
+  std::size_t size() const { return places_.size(); }
+  bool empty() const { return places_.empty(); }
 
   // Error: std::length_error, for a text of 4 GB and more.
   void push_back(const Row& row) {
-    Lengths lengths;
-    std::size_t bytes = sizeof(Lengths);
+    Place place;
+    std::size_t bytes = 0;
     for (std::size_t i = 0; i < kTexts; ++i) {
-      lengths[i] = Length(row[i]);
+      place.lengths[i] = Length(row[i]);
       bytes += row[i].size();
     }
-    char* next = RoomFor(bytes);
-    rows_.push_back(next);
-    std::memcpy(next, lengths.data(), sizeof(Lengths));
-    next += sizeof(Lengths);
+    place.begin = RoomFor(bytes);
+    char* next = place.begin;
     for (const std::string_view text : row) next = std::copy(text.begin(), text.end(), next);
+    places_.push_back(place);
   }
 
   Row operator[](std::size_t index) const {
-    const char* next = rows_[index];
-    Lengths lengths;
-    std::memcpy(lengths.data(), next, sizeof(Lengths));
-    next += sizeof(Lengths);
+    const Place& place = places_[index];
     Row row;
+    const char* next = place.begin;
     for (std::size_t i = 0; i < kTexts; ++i) {
-      row[i] = {next, lengths[i]};
-      next += lengths[i];
+      row[i] = {next, place.lengths[i]};
+      next += place.lengths[i];
     }
     return row;
   }
 
   void clear() {
-    rows_.clear();
+    places_.clear();
     blocks_.clear();
   }
 
  private:
   static constexpr std::size_t kBlockBytes = 65536;
 
-  // Of a row's texts in turn, in bytes; they stand in front of them.
-  using Lengths = std::array<std::uint32_t, kTexts>;
+  struct Place {
+    char* begin = nullptr;
+    std::array<std::uint32_t, kTexts> lengths{};  // bytes of each text in turn
+  };
 
   static std::uint32_t Length(std::string_view text) {
     if (text.size() > UINT32_MAX) throw std::length_error("PackedTexts: a text is too long");
@@ -110,7 +108,7 @@ class PackedTexts {
     for (std::size_t i = 0; i < other.size(); ++i) push_back(other[i]);
   }
 
-  std::vector<const char*> rows_;  // where each begins
+  std::vector<Place> places_;
   std::vector<Block> blocks_;
 };
 
