@@ -25,21 +25,17 @@ constexpr std::string_view kByCounterpartLike =
     "SELECT ID_Pra FROM Pratica WHERE ControCognome LIKE ? ESCAPE '!'";
 constexpr std::string_view kBySubjectLike =
     "SELECT ID_Pra FROM Pratica WHERE Oggetto LIKE ? ESCAPE '!'";
-// To be followed by whom to leave out.
+// The person that stands for nobody is none to look for.
+static_assert(kNobody == 1);
 constexpr std::array<std::string_view, 2> kByPersonLike = {
     "SELECT p.ID_Pra FROM Anagrafica a CROSS JOIN Pratica p "
-    "WHERE p.ID_Cliente = a.ID_Ana AND a.Cognome LIKE ? ESCAPE '!'",
+    "WHERE p.ID_Cliente = a.ID_Ana AND a.Cognome LIKE ? ESCAPE '!' AND a.ID_Ana <> 1",
     "SELECT p.ID_Pra FROM Anagrafica a CROSS JOIN Pratica p "
-    "WHERE p.ID_Controparte = a.ID_Ana AND a.Cognome LIKE ? ESCAPE '!'"};
+    "WHERE p.ID_Controparte = a.ID_Ana AND a.Cognome LIKE ? ESCAPE '!' AND a.ID_Ana <> 1"};
 constexpr std::string_view kAndFirstName = " AND a.Nome LIKE ? ESCAPE '!'";
 
 // Middles are looked for from this length on: shorter texts stand in nearly every case.
 constexpr std::size_t kShortestMiddle = 3;
-
-std::array<std::string, 2> ByPersonLike() {
-  const std::string butNobody = " AND a.ID_Ana <> " + std::to_string(kNobody);
-  return {std::string(kByPersonLike[0]) + butNobody, std::string(kByPersonLike[1]) + butNobody};
-}
 
 std::string Escaped(std::string_view text) {
   std::string pattern;
@@ -98,10 +94,10 @@ class Search {
   // Parties whose surname, or surname and first name, begin with the text. Where the one ends and
   // the other begins is not known: every blank may stand between them.
   void AskForParties(std::string_view text) {
-    for (const std::string& select : byPersonLike_) Ask(select, {BeginsWith(text)});
+    for (const std::string_view select : kByPersonLike) Ask(select, {BeginsWith(text)});
     for (std::size_t at = text.find(' '); at != std::string_view::npos;
          at = text.find(' ', at + 1)) {
-      for (const std::string& select : byPersonLike_) {
+      for (const std::string_view select : kByPersonLike) {
         Ask(std::string(select).append(kAndFirstName),
             {BeginsWith(text.substr(0, at)), BeginsWith(text.substr(at + 1))});
       }
@@ -111,7 +107,7 @@ class Search {
 
   void AskForMiddles(std::string_view text) {
     if (ShorterThan(text, kShortestMiddle)) return;
-    for (const std::string& select : byPersonLike_) Ask(select, {Holds(text)});
+    for (const std::string_view select : kByPersonLike) Ask(select, {Holds(text)});
     Ask(kByCounterpartLike, {Holds(text)});
     Ask(kBySubjectLike, {Holds(text)});
   }
@@ -120,7 +116,6 @@ class Search {
 
  private:
   Connection& connection_;
-  std::array<std::string, 2> byPersonLike_ = ByPersonLike();
   std::vector<std::int32_t> hits_;
 };
 

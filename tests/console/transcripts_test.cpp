@@ -142,6 +142,12 @@ TEST_F(Transcript, AgendaExplained) {
   Run({"explain", "--dir", "office", "page.txt"}, {}, 0);
 }
 
+TEST_F(Transcript, AgendaWhoseNumberOfEntriesIsNoneExplained) {
+  workplace_.SetPage(
+      "Agenda dell'avvocato - Impegni del periodo\r\nTotale impegni: x nel periodo scelto\r\n");
+  Run({"explain", "--dir", "office", "page.txt"}, {}, 4);
+}
+
 TEST_F(Transcript, JusticeOfThePeaceExplained) {
   workplace_.TakePage("samples/giudice-di-pace-opposizione.txt");
   Run({"explain", "--dir", "office", "page.txt"}, {}, 0);

@@ -127,6 +127,7 @@ TEST_F(HandOverTest, APageOfTwentyMegabytesTakesFourTimesItsSizeInMemoryAtMost) 
     ProgramRun& run = Start();
     window_ = NextWindow(kProfileTitle);
     const std::size_t peak = sessions::PeakMemoryOf(run.id());
+    EXPECT_GT(peak, 0U);
     PressIn(window_, WXK_ESCAPE);
     EXPECT_THAT(EndOf(run), Optional(0));
     return peak;

@@ -44,7 +44,8 @@ std::string Became(const PageTrial& trial, const LineReport& line) {
     if (!text.empty()) text.append("; ");
     text.append(name).append(name.empty() || value.empty() ? "" : " = ").append(value);
   };
-  if (line.rule == kNumberOfEntries) {
+  const bool stopped = trial.stop && trial.stop->line == line.number;
+  if (line.rule == kNumberOfEntries && !stopped) {
     append("Impegni", std::to_string(trial.window.page.iNrEventiAgenda));
   }
   for (const std::size_t place : line.reviewRows) {
