@@ -5,26 +5,12 @@
 #include "app/review_lists.h"
 #include "app/window_commands.h"
 #include "base/number.h"
+#include "base/on_the_way.h"
 #include "cases/case_choice_rules.h"
 #include "cases/hearings.h"
 #include "store/case_record.h"
 
 namespace ordex {
-namespace {
-
-// Counts a handler as on the way for as long as it lives.
-class Running {
- public:
-  explicit Running(int& count) : count_(count) { ++count_; }
-  ~Running() { --count_; }
-  Running(const Running&) = delete;
-  Running& operator=(const Running&) = delete;
-
- private:
-  int& count_;
-};
-
-}  // namespace
 
 MainWindow::MainWindow(std::filesystem::path programFolder, const World& world)
     : programFolder_(std::move(programFolder)),
@@ -43,7 +29,7 @@ MainWindow::MainWindow(std::filesystem::path programFolder, const World& world)
 void MainWindow::Run(const std::function<void()>& handler) {
   if (ended_) return;
   {
-    const Running running(running_);
+    const OnTheWay onTheWay(running_);
     try {
       handler();
     } catch (const RunTimeError& error) {

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "base/error.h"
+#include "base/quoted.h"
 #include "store/db/ascii.h"
 #include "store/db/fit_to_column.h"
 #include "store/db/refused_query.h"
@@ -16,10 +17,6 @@ namespace {
 
 RunTimeError RecordError(const std::string& text) {
   return MakeError(ErrorNumber::kDatabase, text);
-}
-
-std::string Quoted(std::string_view name) {
-  return "\"" + std::string(name) + "\"";
 }
 
 RunTimeError NoCurrentRow() {

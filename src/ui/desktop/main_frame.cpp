@@ -5,6 +5,7 @@
 
 #include <utility>
 
+#include "base/on_the_way.h"
 #include "ui/desktop/icons.h"
 #include "ui/desktop/platform.h"
 #include "ui/desktop/wx_text.h"
@@ -16,18 +17,6 @@ constexpr int kMargin = 8;
 constexpr int kGap = 5;
 // A list of fewer pixels than this shows no row worth reading.
 constexpr int kLeastListHeight = 100;
-
-// An act is on its way for as long as this lives.
-class Running {
- public:
-  explicit Running(bool& running) : running_(running) { running_ = true; }
-  ~Running() { running_ = false; }
-  Running(const Running&) = delete;
-  Running& operator=(const Running&) = delete;
-
- private:
-  bool& running_;
-};
 
 }  // namespace
 
@@ -92,9 +81,9 @@ void MainFrame::Arrange() {
 }
 
 void MainFrame::Run(const Act& act) {
-  if (running_ || window_.ended()) return;
+  if (running_ > 0 || window_.ended()) return;
   {
-    const Running running(running_);
+    const OnTheWay onTheWay(running_);
     act(window_);
   }
   status_->HideProgress();
@@ -108,7 +97,7 @@ void MainFrame::Run(const Act& act) {
 
 // The main window keeps a poke back for as long as a handler is on its way, and takes it in then.
 void MainFrame::Poke() {
-  if (running_) {
+  if (running_ > 0) {
     window_.Poke();
     return;
   }

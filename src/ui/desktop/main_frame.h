@@ -42,7 +42,7 @@ class MainFrame : public wxFrame {
 
   MainWindow& window_;
   std::function<void()> onEnd_;
-  bool running_ = false;
+  int running_ = 0;  // acts on the way
   bool sizeSettled_ = false;
   FrmMain drawn_;  // the window's sizes as drawn last
   CaseHeaderPanel* header_;
